@@ -1,0 +1,86 @@
+#include "support/json.h"
+
+#include <cmath>
+#include <iterator>
+
+#include "support/standard_errors.h"
+
+namespace metagen::json {
+
+namespace {
+
+/// The library's own parse context with two additions: a bound on the nesting of objects, which
+/// the library leaves open, and numbers beyond a double refused instead of thrown.
+class BoundedContext : public picojson::default_parse_context {
+public:
+    BoundedContext(Value* out, std::size_t arrayDepth, std::size_t depth)
+        : default_parse_context(out, arrayDepth), remaining(depth) {}
+
+    bool set_number(double number) {
+        return std::isfinite(number) && default_parse_context::set_number(number);
+    }
+
+    bool parse_array_start() { return remaining > 0 && default_parse_context::parse_array_start(); }
+
+    template <typename Iterator>
+    bool parse_array_item(picojson::input<Iterator>& in, std::size_t) {
+        return parseInto(out_->get<Array>().emplace_back(), in);
+    }
+
+    bool parse_object_start() {
+        return remaining > 0 && default_parse_context::parse_object_start();
+    }
+
+    template <typename Iterator>
+    bool parse_object_item(picojson::input<Iterator>& in, const std::string& key) {
+        return parseInto(out_->get<Object>()[key], in);
+    }
+
+private:
+    template <typename Iterator>
+    bool parseInto(Value& item, picojson::input<Iterator>& in) {
+        BoundedContext context(&item, depths_, remaining - 1);
+        return picojson::_parse(context, in);
+    }
+
+    std::size_t remaining;
+};
+
+}  // namespace
+
+std::optional<Value> parse(std::string_view text) {
+    Value value;
+    BoundedContext context(&value, picojson::DEFAULT_MAX_DEPTHS, maximumDepth);
+    picojson::input<const char*> in(text.data(), text.data() + text.size());
+    if (!picojson::_parse(context, in)) return std::nullopt;
+    return value;
+}
+
+const Value* find(const Object& object, const std::string& key) {
+    const auto member = object.find(key);
+    return member == object.end() ? nullptr : &member->second;
+}
+
+const Value& at(const Object& object, const std::string& key) {
+    const Value* value = find(object, key);
+    if (value == nullptr) throwInvalidMapKey();
+    return *value;
+}
+
+const Object& asObject(const Value& value) { return value.get<Object>(); }
+
+Object& asObject(Value& value) { return value.get<Object>(); }
+
+const std::string& asString(const Value& value) { return value.get<std::string>(); }
+
+std::string compactText(const Value& value) {
+    std::string text;
+    appendCompactText(text, value);
+    return text;
+}
+
+void appendCompactText(std::string& out, const Value& value) {
+    value.serialize(std::back_inserter(out));
+}
+
+}  // namespace metagen::json

@@ -1,0 +1,31 @@
+// Whole text files: opened by name, read or written in one go, in the platform's text mode.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace metagen {
+
+struct FileCloser {
+    void operator()(std::FILE* file) const noexcept;
+};
+
+/// An open file, closed when it goes out of scope. A failure to close is not reported.
+using File = std::unique_ptr<std::FILE, FileCloser>;
+
+/// Opens a text file for reading; null when that fails or the path names a folder.
+File openForReading(const char* path);
+
+/// Creates or truncates a text file; null when that fails.
+File openForWriting(const char* path);
+
+/// The rest of the file from where it stands; nothing when reading fails.
+std::optional<std::string> readAll(std::FILE* file);
+
+/// Writes the whole text. A full device goes unnoticed, as the tool's users know it.
+void writeAll(std::FILE* file, std::string_view text);
+
+}  // namespace metagen

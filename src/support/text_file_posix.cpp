@@ -1,0 +1,18 @@
+#include <sys/stat.h>
+
+#include "support/text_file.h"
+
+namespace metagen {
+
+File openForReading(const char* path) {
+    File file(std::fopen(path, "r"));
+    if (!file) return nullptr;
+    // A folder opens like a file here and would fail only on the first read.
+    struct stat status = {};
+    if (fstat(fileno(file.get()), &status) != 0 || S_ISDIR(status.st_mode)) return nullptr;
+    return file;
+}
+
+File openForWriting(const char* path) { return File(std::fopen(path, "w")); }
+
+}  // namespace metagen
