@@ -19,12 +19,12 @@ struct QyraValue {
     std::int32_t kind;    ///< -1 bad, 0 to 10 single values, 12 and 100 to 110 lists, 10000 none
     std::uint32_t count;  ///< elements of a list kind, otherwise 0
     union {
-        std::int32_t integer;           ///< kind 0
-        float single;                   ///< kind 1
-        double real;                    ///< kind 2
-        std::uint8_t boolean;           ///< kind 3; any value but 0 is true
-        float components[12];           ///< kinds 4 and 5: 3 floats, 6: 4, 7: 9 by rows, 8: matrix, offset
-        char* text;                     ///< kind 9, NUL-terminated
+        std::int32_t integer;  ///< kind 0
+        float single;          ///< kind 1
+        double real;           ///< kind 2
+        std::uint8_t boolean;  ///< kind 3; any value but 0 is true
+        float components[12];  ///< kinds 4 and 5: 3 floats, 6: 4, 7: 9 by rows, 8: matrix, offset
+        char* text;            ///< kind 9, NUL-terminated
         QyraPluginReference reference;  ///< kind 10
         void* elements;  ///< int32_t (100), float (101), 3 floats each (104, 105), 12 floats each
                          ///< (108), char* (109), QyraPluginReference (110), QyraValue (12)

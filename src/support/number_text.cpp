@@ -21,15 +21,14 @@ void appendInteger(std::string& out, std::int64_t number) {
 void appendGeneral(std::string& out, double number) {
     constexpr int significantDigits = 6;
     char digits[32];
-    const std::to_chars_result result = std::to_chars(digits, digits + sizeof digits, number,
-                                                      std::chars_format::general, significantDigits);
+    const std::to_chars_result result = std::to_chars(
+        digits, digits + sizeof digits, number, std::chars_format::general, significantDigits);
     out.append(digits, result.ptr);
 }
 
 void appendFloatLiteral(std::string& out, float number) {
     appendGeneral(out, static_cast<double>(number));
-    const bool plainWhole =
-        std::trunc(number) == number && std::fabs(number) <= largestPlainWhole;
+    const bool plainWhole = std::trunc(number) == number && std::fabs(number) <= largestPlainWhole;
     out += plainWhole ? ".f" : "f";
 }
 
