@@ -1,0 +1,27 @@
+# The JSON library, and the test framework for those who build the tests.
+
+# picojson is one header. It is copied into a folder by itself, so that a cross build takes no
+# other header of the build machine along with it.
+find_path(PICOJSON_INCLUDE_DIR picojson.h NO_CMAKE_FIND_ROOT_PATH PATHS /usr/include
+    DOC "Folder of picojson.h" REQUIRED)
+set(picojson_alone "${PROJECT_BINARY_DIR}/picojson")
+configure_file("${PICOJSON_INCLUDE_DIR}/picojson.h" "${picojson_alone}/picojson.h" COPYONLY)
+
+add_library(picojson INTERFACE)
+target_include_directories(picojson SYSTEM INTERFACE "${picojson_alone}")
+
+# Defines GTest::gtest_main: the system's library, or in a cross build, which has none, a library
+# built from the sources that the system keeps.
+macro(metagen_find_googletest)
+    if(NOT CMAKE_CROSSCOMPILING)
+        find_package(GTest REQUIRED)
+    else()
+        find_path(GOOGLETEST_SOURCE_DIR src/gtest-all.cc NO_CMAKE_FIND_ROOT_PATH
+            PATHS /usr/src/googletest/googletest DOC "Sources of GoogleTest" REQUIRED)
+        add_library(gtest_main STATIC EXCLUDE_FROM_ALL
+            "${GOOGLETEST_SOURCE_DIR}/src/gtest-all.cc" "${GOOGLETEST_SOURCE_DIR}/src/gtest_main.cc")
+        target_include_directories(gtest_main SYSTEM
+            PUBLIC "${GOOGLETEST_SOURCE_DIR}/include" PRIVATE "${GOOGLETEST_SOURCE_DIR}")
+        add_library(GTest::gtest_main ALIAS gtest_main)
+    endif()
+endmacro()
