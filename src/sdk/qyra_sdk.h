@@ -5,6 +5,21 @@
 
 #include <cstdint>
 
+/// The kinds of values that are told apart by more than the type code of a single value.
+namespace qyra_kind {
+inline constexpr std::int32_t bad = -1;
+inline constexpr std::int32_t text = 9;
+inline constexpr std::int32_t genericList = 12;
+inline constexpr std::int32_t integerList = 100;
+inline constexpr std::int32_t floatList = 101;
+inline constexpr std::int32_t vectorList = 104;
+inline constexpr std::int32_t colorList = 105;
+inline constexpr std::int32_t transformList = 108;
+inline constexpr std::int32_t textList = 109;
+inline constexpr std::int32_t pluginList = 110;
+inline constexpr std::int32_t unspecified = 10000;
+}  // namespace qyra_kind
+
 /// A reference to a plugin instance, as default values carry it.
 struct QyraPluginReference {
     void* renderer;         ///< handle of the renderer that knows the plugin; null: no reference
@@ -16,7 +31,7 @@ struct QyraPluginReference {
 /// that array, the parts of nested values) was allocated by the SDK, each as a block of its own,
 /// and is given back with `C_memory_free`.
 struct QyraValue {
-    std::int32_t kind;    ///< -1 bad, 0 to 10 single values, 12 and 100 to 110 lists, 10000 none
+    std::int32_t kind;    ///< 0 to 10: a single value of that type code, or one of qyra_kind
     std::uint32_t count;  ///< elements of a list kind, otherwise 0
     union {
         std::int32_t integer;  ///< kind 0
