@@ -1,0 +1,49 @@
+#include "metadata/category.h"
+
+#include <array>
+#include <bit>
+
+namespace metagen {
+
+namespace {
+
+constexpr std::uint32_t bit(int code) { return std::uint32_t{1} << static_cast<unsigned>(code); }
+
+constexpr std::uint32_t knownBits = bit(20) - 1;
+constexpr std::uint32_t minorBits = bit(17) | bit(18) | bit(19);
+constexpr int settingsCode = 8;
+
+constexpr int texture = 9;
+constexpr std::array<int, 5> codesByPrecedence = {4, 5, 1, texture, 3};
+
+constexpr std::array<std::string_view, 17> names = {
+    "bitmap",         "BRDF",     "node",     "geometry", "light",     "material",
+    "render_channel", "settings", "settings", "texture",  "texture",   "texture",
+    "texture",        "texture",  "texture",  "uvw",      "volumetric"};
+
+CategoryResolution only(std::uint32_t bits) {
+    return {.name = categoryName(std::countr_zero(bits))};
+}
+
+}  // namespace
+
+std::optional<std::string_view> categoryName(int code) {
+    const bool named = code >= 0 && static_cast<std::size_t>(code) < names.size();
+    return named ? std::optional(names[static_cast<std::size_t>(code)]) : std::nullopt;
+}
+
+CategoryResolution resolveCategory(std::uint64_t bits) {
+    std::uint32_t left = static_cast<std::uint32_t>(bits) & knownBits;
+    if (left == 0) return {};
+    if (std::has_single_bit(left)) return only(left);
+    left &= ~minorBits;
+    if (std::has_single_bit(left)) return only(left);
+    left &= ~bit(settingsCode);
+    if (std::has_single_bit(left)) return only(left);
+    for (const int code : codesByPrecedence) {
+        if ((left & bit(code)) != 0) return {.name = categoryName(code)};
+    }
+    return {.name = std::nullopt, .conflict = true, .conflictingBits = left};
+}
+
+}  // namespace metagen

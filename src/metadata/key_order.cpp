@@ -1,0 +1,35 @@
+#include "metadata/key_order.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace metagen {
+
+namespace {
+
+/// Every byte as it compares, by its unsigned value.
+constexpr std::array<std::int8_t, 256> foldedBytes = [] {
+    std::array<std::int8_t, 256> folded = {};
+    for (std::size_t code = 0; code < folded.size(); ++code) {
+        const bool upperCase = code >= 'A' && code <= 'Z';
+        const std::size_t lower = upperCase ? code + ('a' - 'A') : code;
+        folded[code] = static_cast<std::int8_t>(code == '_' ? '.' : lower);
+    }
+    return folded;
+}();
+
+std::int8_t folded(char byte) { return foldedBytes[static_cast<unsigned char>(byte)]; }
+
+bool foldedLess(char left, char right) { return folded(left) < folded(right); }
+
+}  // namespace
+
+bool CombinedKeyLess::operator()(std::string_view left, std::string_view right) const {
+    constexpr std::string_view first = "type";
+    if (right == first) return false;
+    if (left == first) return true;
+    return std::ranges::lexicographical_compare(left, right, foldedLess);
+}
+
+}  // namespace metagen
