@@ -1,0 +1,14 @@
+// The end of the process by an exception that no command catches.
+#pragma once
+
+namespace metagen {
+
+/// From now on such an exception ends the process abnormally: standard output is flushed, the
+/// exception's text and a line feed go to standard error, and the process aborts, without a
+/// dialog of the system's.
+void installAbnormalEnd();
+
+/// Keeps the system from showing a dialog, or writing a text of its own, when the process aborts.
+void silenceAbort();
+
+}  // namespace metagen

@@ -1,0 +1,7 @@
+#include "cli/abnormal_end.h"
+
+namespace metagen {
+
+void silenceAbort() {}
+
+}  // namespace metagen
