@@ -10,14 +10,17 @@ namespace metagen::json {
 namespace {
 
 /// The library's own parse context with two additions: a bound on the nesting of objects, which
-/// the library leaves open, and numbers beyond a double refused instead of thrown.
+/// the library leaves open, and numbers beyond a double noted instead of thrown out of the parser
+/// (which does not look at what set_number returns).
 class BoundedContext : public picojson::default_parse_context {
 public:
-    BoundedContext(Value* out, std::size_t arrayDepth, std::size_t depth)
-        : default_parse_context(out, arrayDepth), remaining(depth) {}
+    BoundedContext(Value* out, std::size_t arrayDepth, std::size_t depth, bool& overflow)
+        : default_parse_context(out, arrayDepth), remaining(depth), numberOverflow(overflow) {}
 
     bool set_number(double number) {
-        return std::isfinite(number) && default_parse_context::set_number(number);
+        if (std::isfinite(number)) return default_parse_context::set_number(number);
+        numberOverflow = true;
+        return false;
     }
 
     bool parse_array_start() { return remaining > 0 && default_parse_context::parse_array_start(); }
@@ -39,20 +42,22 @@ public:
 private:
     template <typename Iterator>
     bool parseInto(Value& item, picojson::input<Iterator>& in) {
-        BoundedContext context(&item, depths_, remaining - 1);
+        BoundedContext context(&item, depths_, remaining - 1, numberOverflow);
         return picojson::_parse(context, in);
     }
 
     std::size_t remaining;
+    bool& numberOverflow;
 };
 
 }  // namespace
 
 std::optional<Value> parse(std::string_view text) {
     Value value;
-    BoundedContext context(&value, picojson::DEFAULT_MAX_DEPTHS, maximumDepth);
+    bool numberOverflow = false;
+    BoundedContext context(&value, picojson::DEFAULT_MAX_DEPTHS, maximumDepth, numberOverflow);
     picojson::input<const char*> in(text.data(), text.data() + text.size());
-    if (!picojson::_parse(context, in)) return std::nullopt;
+    if (!picojson::_parse(context, in) || numberOverflow) return std::nullopt;
     return value;
 }
 

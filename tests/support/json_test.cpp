@@ -1,0 +1,112 @@
+#include "support/json.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace metagen::json {
+namespace {
+
+std::string reserialised(std::string_view text) {
+    const std::optional<Value> value = parse(text);
+    return value ? compactText(*value) : "refused";
+}
+
+std::string nested(std::size_t depth, const std::string& open, const std::string& close) {
+    std::string text;
+    for (std::size_t i = 0; i < depth; ++i) text += open;
+    text += "1";
+    for (std::size_t i = 0; i < depth; ++i) text += close;
+    return text;
+}
+
+template <typename Exception, typename Call>
+std::string messageOf(const Call& call) {
+    try {
+        call();
+    } catch (const Exception& exception) {
+        return exception.what();
+    }
+    return "nothing thrown";
+}
+
+TEST(JsonParse, ReadsEveryKindOfValue) {
+    EXPECT_EQ(reserialised(R"( {"o":{},"a":[1,-2.5,"t"],"b":true,"n":null} )"),
+              R"({"a":[1,-2.5,"t"],"b":true,"n":null,"o":{}})");
+}
+
+TEST(JsonParse, IgnoresTextAfterTheValue) { EXPECT_EQ(reserialised("{} x"), "{}"); }
+
+TEST(JsonParse, KeepsTheLastOfEqualMembers) {
+    EXPECT_EQ(reserialised(R"({"a":1,"a":2})"), R"({"a":2})");
+}
+
+TEST(JsonParse, RefusesAByteOrderMark) { EXPECT_EQ(reserialised("\xef\xbb\xbf{}"), "refused"); }
+
+TEST(JsonParse, RefusesBrokenText) {
+    for (const char* text : {"", "   ", "{", "[1,]", "{\"a\" 1}", "nul", "\"a", "'a'", "-", "+1"}) {
+        EXPECT_EQ(reserialised(text), "refused") << text;
+    }
+}
+
+TEST(JsonParse, RefusesNumbersBeyondADouble) {
+    EXPECT_EQ(reserialised("[1e309]"), "refused");
+    EXPECT_EQ(reserialised("-1e309"), "refused");
+    EXPECT_EQ(reserialised("1e308"), "1e+308");
+}
+
+TEST(JsonParse, ObjectsNestAThousandDeepAndNoDeeper) {
+    EXPECT_NE(reserialised(nested(1000, "{\"a\":", "}")), "refused");
+    EXPECT_EQ(reserialised(nested(1001, "{\"a\":", "}")), "refused");
+}
+
+TEST(JsonParse, ArraysNestAHundredDeepAsTheLibraryHasIt) {
+    EXPECT_NE(reserialised(nested(100, "[", "]")), "refused");
+    EXPECT_EQ(reserialised(nested(101, "[", "]")), "refused");
+}
+
+TEST(JsonParse, MixedNestingHasTheSameBounds) {
+    EXPECT_NE(reserialised("[" + nested(999, "{\"a\":", "}") + "]"), "refused");
+    EXPECT_EQ(reserialised("[" + nested(1000, "{\"a\":", "}") + "]"), "refused");
+}
+
+TEST(JsonParse, AHugeDepthEndsQuietly) {
+    EXPECT_EQ(reserialised(std::string(5'000'000, '{')), "refused");
+    EXPECT_EQ(reserialised(std::string(5'000'000, '[')), "refused");
+}
+
+TEST(JsonCompactText, EscapesTheSlashAndWrites17Digits) {
+    EXPECT_EQ(reserialised(R"(["a/b",0.1,9007199254740992,1.0])"),
+              R"(["a\/b",0.10000000000000001,9007199254740992,1])");
+}
+
+TEST(JsonCompactText, AppendsToWhatIsThere) {
+    std::string out = "x";
+    appendCompactText(out, Value(true));
+    EXPECT_EQ(out, "xtrue");
+}
+
+TEST(JsonMembers, FindGivesNullForAMissingMember) {
+    const Value document = *parse(R"({"a":1})");
+    EXPECT_EQ(find(asObject(document), "b"), nullptr);
+    EXPECT_EQ(compactText(*find(asObject(document), "a")), "1");
+}
+
+TEST(JsonMembers, AtThrowsForAMissingMember) {
+    const Object object;
+    EXPECT_EQ(messageOf<std::out_of_range>([&] { at(object, "a"); }), "invalid map<K, T> key");
+}
+
+TEST(JsonKinds, AWrongKindThrowsTheLibrarysText) {
+    const Value number(1.0);
+    Value text("t");
+    EXPECT_EQ(messageOf<std::runtime_error>([&] { asObject(number); }),
+              "\"type mismatch! call is<type>() before get<type>()\" && is<object>()");
+    EXPECT_EQ(messageOf<std::runtime_error>([&] { asObject(text); }),
+              "\"type mismatch! call is<type>() before get<type>()\" && is<object>()");
+    EXPECT_EQ(messageOf<std::runtime_error>([&] { asString(number); }),
+              "\"type mismatch! call is<type>() before get<type>()\" && is<std::string>()");
+}
+
+}  // namespace
+}  // namespace metagen::json

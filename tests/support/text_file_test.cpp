@@ -1,0 +1,57 @@
+#include "support/text_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+namespace metagen {
+namespace {
+
+/// A path in the tests' temporary folder, removed before and after use.
+class TextFile : public testing::Test {
+protected:
+    TextFile() : path(testing::TempDir() + "metagen_text_file_test.txt") {
+        std::filesystem::remove_all(path);
+    }
+    ~TextFile() override { std::filesystem::remove_all(path); }
+
+    std::string path;
+};
+
+TEST_F(TextFile, ReadsWhatWasWritten) {
+    std::string text(300'000, 'x');
+    text += "\nend";
+    writeAll(openForWriting(path.c_str()).get(), text);
+    EXPECT_EQ(readAll(openForReading(path.c_str()).get()), text);
+}
+
+TEST_F(TextFile, AnEmptyFileIsAnEmptyText) {
+    writeAll(openForWriting(path.c_str()).get(), "");
+    EXPECT_EQ(readAll(openForReading(path.c_str()).get()), "");
+}
+
+TEST_F(TextFile, WritingTruncates) {
+    writeAll(openForWriting(path.c_str()).get(), "long text");
+    writeAll(openForWriting(path.c_str()).get(), "short");
+    EXPECT_EQ(readAll(openForReading(path.c_str()).get()), "short");
+}
+
+TEST_F(TextFile, AMissingFileOrFolderCanNotBeOpened) {
+    EXPECT_EQ(openForReading(path.c_str()), nullptr);
+    EXPECT_EQ(openForWriting((path + "/in/no/folder").c_str()), nullptr);
+}
+
+TEST_F(TextFile, AFolderCanNotBeOpened) {
+    std::filesystem::create_directory(path);
+    EXPECT_EQ(openForReading(path.c_str()), nullptr);
+    EXPECT_EQ(openForWriting(path.c_str()), nullptr);
+}
+
+TEST_F(TextFile, AFileThatCanNotBeReadGivesNothing) {
+    const File file = openForWriting(path.c_str());
+    EXPECT_EQ(readAll(file.get()), std::nullopt);
+}
+
+}  // namespace
+}  // namespace metagen
