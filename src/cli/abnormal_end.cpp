@@ -1,7 +1,6 @@
 #include "cli/abnormal_end.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
 
 namespace metagen {
@@ -23,14 +22,11 @@ void reportException() try {
 [[noreturn]] void endAbnormally() {
     static_cast<void>(std::fflush(stdout));
     reportException();
-    std::abort();
+    abortProcess();
 }
 
 }  // namespace
 
-void installAbnormalEnd() {
-    silenceAbort();
-    std::set_terminate(endAbnormally);
-}
+void installAbnormalEnd() { std::set_terminate(endAbnormally); }
 
 }  // namespace metagen

@@ -8,7 +8,7 @@ namespace metagen {
 /// dialog of the system's.
 void installAbnormalEnd();
 
-/// Keeps the system from showing a dialog, or writing a text of its own, when the process aborts.
-void silenceAbort();
+/// Ends the process at once, as abort() does, but with no text or dialog of the system's.
+[[noreturn]] void abortProcess();
 
 }  // namespace metagen

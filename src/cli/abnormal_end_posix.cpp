@@ -1,7 +1,9 @@
+#include <cstdlib>
+
 #include "cli/abnormal_end.h"
 
 namespace metagen {
 
-void silenceAbort() {}
+void abortProcess() { std::abort(); }
 
 }  // namespace metagen

@@ -6,9 +6,17 @@
 
 namespace metagen {
 
-void silenceAbort() {
-    SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
-    _set_abort_behavior(0, _WRITE_ABORT_MSG | _CALL_REPORTFAULT);
+namespace {
+
+constexpr UINT statusOfAbort = 3;  // what the C library's abort() ends with
+
+}  // namespace
+
+// abort() itself would write a text of its own and may show a dialog, and not every C library here
+// lets that be switched off.
+void abortProcess() {
+    TerminateProcess(GetCurrentProcess(), statusOfAbort);
+    std::abort();  // not reached: a process may always terminate itself
 }
 
 }  // namespace metagen
