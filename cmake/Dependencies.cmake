@@ -10,18 +10,21 @@ configure_file("${PICOJSON_INCLUDE_DIR}/picojson.h" "${picojson_alone}/picojson.
 add_library(picojson INTERFACE)
 target_include_directories(picojson SYSTEM INTERFACE "${picojson_alone}")
 
-# Defines GTest::gtest_main: the system's library, or in a cross build, which has none, a library
-# built from the sources that the system keeps.
+# Defines GTest::gtest and GTest::gtest_main: the system's libraries, or in a cross build, which has
+# none, libraries built from the sources that the system keeps.
 macro(metagen_find_googletest)
     if(NOT CMAKE_CROSSCOMPILING)
         find_package(GTest REQUIRED)
     else()
         find_path(GOOGLETEST_SOURCE_DIR src/gtest-all.cc NO_CMAKE_FIND_ROOT_PATH
             PATHS /usr/src/googletest/googletest DOC "Sources of GoogleTest" REQUIRED)
-        add_library(gtest_main STATIC EXCLUDE_FROM_ALL
-            "${GOOGLETEST_SOURCE_DIR}/src/gtest-all.cc" "${GOOGLETEST_SOURCE_DIR}/src/gtest_main.cc")
-        target_include_directories(gtest_main SYSTEM
+        add_library(gtest STATIC EXCLUDE_FROM_ALL "${GOOGLETEST_SOURCE_DIR}/src/gtest-all.cc")
+        target_include_directories(gtest SYSTEM
             PUBLIC "${GOOGLETEST_SOURCE_DIR}/include" PRIVATE "${GOOGLETEST_SOURCE_DIR}")
+        add_library(gtest_main STATIC EXCLUDE_FROM_ALL
+            "${GOOGLETEST_SOURCE_DIR}/src/gtest_main.cc")
+        target_link_libraries(gtest_main PUBLIC gtest)
+        add_library(GTest::gtest ALIAS gtest)
         add_library(GTest::gtest_main ALIAS gtest_main)
     endif()
 endmacro()
