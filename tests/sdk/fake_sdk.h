@@ -41,7 +41,7 @@ struct FakeClass {
 struct FakePlugin {
     std::optional<std::string> name;
     bool exists = true;
-    std::map<std::int32_t, std::string> properties;
+    std::map<std::int32_t, std::string> properties = {};
 };
 
 class FakeSdk {
