@@ -43,7 +43,7 @@ private:
     template <typename Iterator>
     bool parseInto(Value& item, picojson::input<Iterator>& in) {
         BoundedContext context(&item, depths_, remaining - 1, numberOverflow);
-        return picojson::_parse(context, in);
+        return picojson::_parse(context, in) && !numberOverflow;
     }
 
     std::size_t remaining;
@@ -53,11 +53,18 @@ private:
 }  // namespace
 
 std::optional<Value> parse(std::string_view text) {
+    int lastLine = 0;
+    return parse(text, lastLine);
+}
+
+std::optional<Value> parse(std::string_view text, int& lastLine) {
     Value value;
     bool numberOverflow = false;
     BoundedContext context(&value, picojson::DEFAULT_MAX_DEPTHS, maximumDepth, numberOverflow);
     picojson::input<const char*> in(text.data(), text.data() + text.size());
-    if (!picojson::_parse(context, in) || numberOverflow) return std::nullopt;
+    const bool complete = picojson::_parse(context, in) && !numberOverflow;
+    lastLine = in.line();
+    if (!complete) return std::nullopt;
     return value;
 }
 

@@ -49,6 +49,18 @@ TEST(JsonParse, RefusesBrokenText) {
     }
 }
 
+int lineOfError(std::string_view text) {
+    int line = 0;
+    EXPECT_FALSE(parse(text, line));
+    return line;
+}
+
+TEST(JsonParse, TellsTheLineOfAnError) {
+    EXPECT_EQ(lineOfError("{"), 1);
+    EXPECT_EQ(lineOfError("{\n\"a\": 1,\n\"b\": ?\n}\n"), 3);
+    EXPECT_EQ(lineOfError("[1,\n1e309,\n2]\n"), 2);
+}
+
 TEST(JsonParse, RefusesNumbersBeyondADouble) {
     EXPECT_EQ(reserialised("[1e309]"), "refused");
     EXPECT_EQ(reserialised("-1e309"), "refused");
