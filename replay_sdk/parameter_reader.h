@@ -1,0 +1,13 @@
+// One parameter of a catalogue: the base document's form and the forms that say more.
+#pragma once
+
+#include "replay_sdk/catalogue.h"
+#include "replay_sdk/item.h"
+#include "replay_sdk/list_text.h"
+
+namespace metagen::replay {
+
+/// The parameter that the object tells, without its name. Throws CatalogueError.
+Parameter readParameter(const Item& item, const InstanceNaming& instanceOf);
+
+}  // namespace metagen::replay
