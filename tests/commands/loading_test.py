@@ -28,9 +28,9 @@ class LoadingTest(CommandTest):
         self.assert_text_file("out.json", expected)
 
     def assert_loads_nothing(self, appsdk_bin=None, sdk=None):
-        self.assert_run(["dump", "-o", "out.json"], status=FAILURE, stdout=LOAD_FAILURE,
+        self.assert_run(["dump", "-o", "nothing.json"], status=FAILURE, stdout=LOAD_FAILURE,
                         environment={"QYRA_APPSDK_BIN": appsdk_bin, "QYRA_SDK": sdk})
-        self.assertFalse((self.folder / "out.json").exists())
+        self.assertFalse((self.folder / "nothing.json").exists())
 
     def native_text(self, path):
         """The path as a text that more can be appended to."""
