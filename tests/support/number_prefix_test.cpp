@@ -1,0 +1,102 @@
+#include "support/number_prefix.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <string>
+
+namespace metagen {
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
+
+TEST(ReadIntegerPrefix, SkipsBlanksAndIgnoresWhatFollows) {
+    EXPECT_EQ(readIntegerPrefix(" \t\n\v\f\r12abc"), 12);
+    EXPECT_EQ(readIntegerPrefix("2.7"), 2);
+    EXPECT_EQ(readIntegerPrefix("0x10"), 0);
+}
+
+TEST(ReadIntegerPrefix, TakesOneSign) {
+    EXPECT_EQ(readIntegerPrefix("-5"), -5);
+    EXPECT_EQ(readIntegerPrefix("+5"), 5);
+    EXPECT_EQ(readIntegerPrefix("+-5"), 0);
+    EXPECT_EQ(readIntegerPrefix("--5"), 0);
+    EXPECT_EQ(readIntegerPrefix("- 5"), 0);
+}
+
+TEST(ReadIntegerPrefix, IsZeroWithoutADigit) {
+    for (const char* text : {"", " ", "-", "abc", ")"}) EXPECT_EQ(readIntegerPrefix(text), 0);
+}
+
+TEST(ReadIntegerPrefix, SaturatesBeyond64Bits) {
+    EXPECT_EQ(readIntegerPrefix("9223372036854775807"), largest);
+    EXPECT_EQ(readIntegerPrefix("9223372036854775808"), largest);
+    EXPECT_EQ(readIntegerPrefix("99999999999999999999999"), largest);
+    EXPECT_EQ(readIntegerPrefix("-9223372036854775807"), -largest);
+    EXPECT_EQ(readIntegerPrefix("-9223372036854775808"), smallest);
+    EXPECT_EQ(readIntegerPrefix("-99999999999999999999999"), smallest);
+}
+
+TEST(ReadDoublePrefix, ReadsTheLongestNumber) {
+    EXPECT_EQ(readDoublePrefix(" \t\n\v\f\r1.5e2))"), 150);
+    EXPECT_EQ(readDoublePrefix("1e"), 1);
+    EXPECT_EQ(readDoublePrefix(".5"), 0.5);
+    EXPECT_EQ(readDoublePrefix("5."), 5);
+    EXPECT_EQ(readDoublePrefix("1,5"), 1);
+}
+
+TEST(ReadDoublePrefix, TakesOneSign) {
+    EXPECT_EQ(readDoublePrefix("-2.5"), -2.5);
+    EXPECT_EQ(readDoublePrefix("+2.5"), 2.5);
+    EXPECT_EQ(readDoublePrefix("+-2.5"), 0);
+    EXPECT_EQ(readDoublePrefix("--2.5"), 0);
+    EXPECT_TRUE(std::signbit(readDoublePrefix("-0")));
+}
+
+TEST(ReadDoublePrefix, IsZeroWithoutANumber) {
+    for (const char* text : {"", " ", "-", ".", "e5", "abc", ")"}) {
+        EXPECT_EQ(readDoublePrefix(text), 0) << text;
+    }
+}
+
+TEST(ReadDoublePrefix, ReadsHexadecimalNumbers) {
+    EXPECT_EQ(readDoublePrefix("0x1.8p3"), 12);
+    EXPECT_EQ(readDoublePrefix("-0XfF"), -255);
+    EXPECT_EQ(readDoublePrefix("0x.8"), 0.5);
+    EXPECT_EQ(readDoublePrefix("0x1p"), 1);
+}
+
+TEST(ReadDoublePrefix, ReadsTheZeroOfAnUnfinishedHexadecimalNumber) {
+    for (const char* text : {"0x", "0x.", "0xg", "0x-1", "0xinf", "0xnan"}) {
+        EXPECT_EQ(readDoublePrefix(text), 0) << text;
+    }
+}
+
+TEST(ReadDoublePrefix, ReadsInfinityAndNan) {
+    EXPECT_EQ(readDoublePrefix("inf"), infinity);
+    EXPECT_EQ(readDoublePrefix("-INFINITY"), -infinity);
+    EXPECT_TRUE(std::isnan(readDoublePrefix("nan")));
+    EXPECT_TRUE(std::isnan(readDoublePrefix("-NaN(12)")));
+}
+
+TEST(ReadDoublePrefix, IsAnInfinityForTooLargeNumbers) {
+    EXPECT_EQ(readDoublePrefix("1e309"), infinity);
+    EXPECT_EQ(readDoublePrefix("-1e999999999999999999999"), -infinity);
+    EXPECT_EQ(readDoublePrefix("1" + std::string(400, '0')), infinity);
+    EXPECT_EQ(readDoublePrefix("0." + std::string(400, '0') + "1e+1000"), infinity);
+    EXPECT_EQ(readDoublePrefix("0x1p+5000"), infinity);
+}
+
+TEST(ReadDoublePrefix, IsZeroForTooSmallNumbers) {
+    EXPECT_EQ(readDoublePrefix("1e-400"), 0);
+    EXPECT_EQ(readDoublePrefix("1e-999999999999999999999"), 0);
+    EXPECT_EQ(readDoublePrefix("0." + std::string(400, '0') + "1"), 0);
+    EXPECT_EQ(readDoublePrefix("1" + std::string(400, '0') + "e-1000"), 0);
+    EXPECT_EQ(readDoublePrefix("0x1p-5000"), 0);
+}
+
+}  // namespace
+}  // namespace metagen
