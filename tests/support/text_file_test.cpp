@@ -48,10 +48,5 @@ TEST_F(TextFile, AFolderCanNotBeOpened) {
     EXPECT_EQ(openForWriting(path.c_str()), nullptr);
 }
 
-TEST_F(TextFile, AFileThatCanNotBeReadGivesNothing) {
-    const File file = openForWriting(path.c_str());
-    EXPECT_EQ(readAll(file.get()), std::nullopt);
-}
-
 }  // namespace
 }  // namespace metagen

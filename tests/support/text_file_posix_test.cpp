@@ -1,0 +1,16 @@
+#include <gtest/gtest.h>
+
+#include "support/text_file.h"
+
+namespace metagen {
+namespace {
+
+TEST(TextFileOnPosix, WhatCanNotBeReadGivesNothing) {
+    // Opened past the check for folders: a folder's first read fails.
+    const File folder(std::fopen("/", "r"));
+    ASSERT_NE(folder, nullptr);
+    EXPECT_EQ(readAll(folder.get()), std::nullopt);
+}
+
+}  // namespace
+}  // namespace metagen
