@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/options.h"
+#include "genh/genh.h"
 #include "metadata/dump.h"
 #include "sdk/exceptions.h"
 #include "sdk/sdk_session.h"
@@ -56,7 +57,8 @@ constexpr std::array<Command, 5> commands = {{
     {"combine", missingOfConversion, notYet},
     {"diff", missingOfDiff, notYet},
     {"dump", missingOfDump, [](const Options& options) { dump(options.output); }},
-    {"genh", missingOfConversion, notYet},
+    {"genh", missingOfConversion,
+     [](const Options& options) { genh(options.input, options.output); }},
     {"genm", missingOfConversion, notYet},
 }};
 
