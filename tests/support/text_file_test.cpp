@@ -3,16 +3,18 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <random>
 #include <string>
 
 namespace metagen {
 namespace {
 
-/// A path in the tests' temporary folder, removed before and after use.
+/// A path in the tests' temporary folder that no other test has, run beside this one or not;
+/// removed after use.
 class TextFile : public testing::Test {
 protected:
-    TextFile() : path(testing::TempDir() + "metagen_text_file_test.txt") {
-        std::filesystem::remove_all(path);
+    TextFile()
+        : path(testing::TempDir() + "metagen_text_file_" + std::to_string(std::random_device()())) {
     }
     ~TextFile() override { std::filesystem::remove_all(path); }
 
