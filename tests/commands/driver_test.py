@@ -1,8 +1,14 @@
 """The command line: words, options, the order of checks, and exit statuses."""
 
+import json
 import unittest
 
 from harness import ABORTED, FAILURE, LOAD_FAILURE, TEST_LIBRARIES, USAGE, CommandTest
+
+INPUT_MISSING = "Input file not specified\n"
+OUTPUT_MISSING = "Output file not specified\n"
+LEFT_MISSING = "Left hand side file not specified\n"
+RIGHT_MISSING = "Right hand side file not specified\n"
 
 NO_SDK = {"QYRA_SDK": None}
 ABORTING_SDK = {"QYRA_SDK": TEST_LIBRARIES / "aborting_sdk"}
@@ -41,6 +47,97 @@ class MissingSdk(CommandTest):
     def test_comes_before_an_unknown_word(self):
         self.assert_load_failure("frobnicate")
         self.assert_load_failure("frobnicate", "-i", "a", "-o", "b")
+
+
+class MissingOptions(CommandTest):
+    def assert_missing(self, message, *arguments):
+        self.assert_run(arguments, status=FAILURE, stdout=message)
+        self.assert_files()
+
+    def test_dump_needs_an_output(self):
+        self.assert_missing(OUTPUT_MISSING, "dump")
+        self.assert_missing(OUTPUT_MISSING, "dump", "-i", "x")
+
+    def test_diff_asks_for_left_then_right_then_output(self):
+        self.assert_missing(LEFT_MISSING, "diff")
+        self.assert_missing(LEFT_MISSING, "diff", "-o", "d.txt")
+        self.assert_missing(LEFT_MISSING, "diff", "-i", "a.json", "-o", "d.txt")
+        self.assert_missing(RIGHT_MISSING, "diff", "-l", "a.json", "-o", "d.txt")
+        self.assert_missing(RIGHT_MISSING, "diff", "-l", "a.json")
+        self.assert_missing(OUTPUT_MISSING, "diff", "-l", "a.json", "-r", "b.json")
+
+    def test_the_others_ask_for_input_then_output(self):
+        for word in ("combine", "genh", "genm", "frobnicate"):
+            with self.subTest(word=word):
+                self.assert_missing(INPUT_MISSING, word)
+                self.assert_missing(INPUT_MISSING, word, "-o", "out")
+                self.assert_missing(INPUT_MISSING, word, "-l", "a", "-r", "b", "-o", "out")
+                self.assert_missing(OUTPUT_MISSING, word, "-i", "in.json")
+
+
+class OptionPairs(CommandTest):
+    """Options are read as pairs from the first word after the command on."""
+
+    def assert_dumps_to(self, name, *arguments):
+        self.assert_run(arguments)
+        self.assert_files(name)
+        json.loads(self.read_text(name))
+
+    def assert_no_output_named(self, *arguments):
+        self.assert_run(arguments, status=FAILURE, stdout=OUTPUT_MISSING)
+        self.assert_files()
+
+    def test_the_last_of_equal_options_wins(self):
+        self.assert_dumps_to("b.json", "dump", "-o", "a.json", "-o", "b.json")
+
+    def test_options_that_a_command_does_not_use_are_ignored(self):
+        self.assert_dumps_to("y", "dump", "-i", "x", "-o", "y")
+
+    def test_a_pair_that_is_no_option_is_skipped_whole(self):
+        self.assert_dumps_to("out.json", "dump", "-x", "-o", "-o", "out.json")
+
+    def test_a_value_may_look_like_an_option(self):
+        self.assert_dumps_to("-i", "dump", "-o", "-i")
+
+    def test_file_names_may_have_any_letters(self):
+        self.assert_dumps_to("\u00fc \u6771\u4eac 100%.json",
+                             "dump", "-o", "\u00fc \u6771\u4eac 100%.json")
+
+    def test_an_option_without_its_value_is_ignored(self):
+        self.assert_no_output_named("dump", "-o")
+
+    def test_an_odd_word_at_the_end_is_ignored(self):
+        self.assert_dumps_to("a.json", "dump", "-o", "a.json", "-o")
+
+    def test_a_stray_word_shifts_every_later_pair(self):
+        self.assert_no_output_named("dump", "foo", "-o", "out.json")
+
+    def test_option_names_are_exact(self):
+        for name in ("-O", "-ox", "--o", "o", "-"):
+            with self.subTest(name=name):
+                self.assert_no_output_named("dump", name, "out.json")
+
+
+class CommandWords(CommandTest):
+    def test_case_does_not_matter(self):
+        for word in ("dump", "DuMp", "DUMP", "Dump"):
+            with self.subTest(word=word):
+                self.assert_run([word, "-o", "x.json"])
+                self.assert_files("x.json")
+                (self.folder / "x.json").unlink()
+
+    def test_an_unknown_word_with_both_files_prints_the_usage(self):
+        for word in ("frobnicate", "", "dum", "dumpp", "d\u00dcmp", "-o"):
+            with self.subTest(word=word):
+                self.assert_run([word, "-i", "a", "-o", "b"], stdout=USAGE)
+                self.assert_files()
+
+
+class CommandsOwnEnds(CommandTest):
+    def test_a_fatal_condition_of_a_command_is_its_own_to_report(self):
+        self.assert_run(["dump", "-o", "missing/base.json"], status=FAILURE,
+                        stderr="Could not open file")
+        self.assert_files()
 
 
 if __name__ == "__main__":

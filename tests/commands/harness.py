@@ -71,6 +71,16 @@ def text_bytes(text):
     return text.replace("\n", line_end).encode("utf-8", "surrogateescape")
 
 
+def golden_bytes(*place):
+    """A file below tests/golden, given by its command, case and name."""
+    return GOLDEN.joinpath(*place).read_bytes()
+
+
+def golden_text(*place):
+    """The text of such a file, for assert_run and assert_text_file."""
+    return golden_bytes(*place).decode("utf-8", "surrogateescape")
+
+
 def native(value):
     """A path in the form of the binary's platform; any other text as it is."""
     if not isinstance(value, pathlib.PurePath):
@@ -165,6 +175,10 @@ class CommandTest(unittest.TestCase):
     def assert_text_file(self, name, expected):
         """The file, written in text mode, holds exactly the text."""
         self.assertEqual(text_bytes(expected), (self.folder / name).read_bytes())
+
+    def assert_binary_file(self, name, expected):
+        """The file holds exactly the bytes."""
+        self.assertEqual(expected, (self.folder / name).read_bytes())
 
     def assert_files(self, *names):
         """The test's folder holds these files and no others."""
