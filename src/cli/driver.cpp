@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/options.h"
+#include "diff/diff.h"
 #include "genh/genh.h"
 #include "metadata/dump.h"
 #include "sdk/exceptions.h"
@@ -55,7 +56,8 @@ void notYet(const Options& /*options*/) { print("not built yet\n"); }
 
 constexpr std::array<Command, 5> commands = {{
     {"combine", missingOfConversion, notYet},
-    {"diff", missingOfDiff, notYet},
+    {"diff", missingOfDiff,
+     [](const Options& options) { diff(options.left, options.right, options.output); }},
     {"dump", missingOfDump, [](const Options& options) { dump(options.output); }},
     {"genh", missingOfConversion,
      [](const Options& options) { genh(options.input, options.output); }},

@@ -18,6 +18,7 @@ namespace metagen::json {
 using Value = picojson::value;
 using Object = picojson::object;
 using Array = picojson::array;
+using Null = picojson::null;
 
 /// The deepest nesting of objects and arrays together that a document may have, so that no
 /// document can exhaust the stack.

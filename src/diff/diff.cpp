@@ -1,0 +1,46 @@
+#include "diff/diff.h"
+
+#include <string>
+#include <utility>
+
+#include "diff/object_difference.h"
+#include "support/json_file.h"
+#include "support/process_end.h"
+#include "support/text_file.h"
+
+namespace metagen {
+
+namespace {
+
+constexpr const char* leftNotOpened = "Could not open left file";
+constexpr const char* rightNotOpened = "Could not open right file";
+
+const json::Object& objectOrExit(const json::Value& document) {
+    requireOrExit(document.is<json::Object>(), "JSON is not an object");
+    return json::asObject(document);
+}
+
+}  // namespace
+
+void diff(const char* leftPath, const char* rightPath, const char* outputPath) {
+    File leftFile = openForReading(leftPath);
+    requireOrExit(leftFile != nullptr, leftNotOpened);
+    File rightFile = openForReading(rightPath);
+    requireOrExit(rightFile != nullptr, rightNotOpened);
+    const File output = openForWriting(outputPath);
+    requireOrExit(output != nullptr, "Could not open output file");
+
+    // The two small initials are deliberate: scripts look for these messages.
+    const json::Value left = json::parseFileOrExit(std::move(leftFile), leftNotOpened,
+                                                   "the left given json has errors inside");
+    const json::Value right = json::parseFileOrExit(std::move(rightFile), rightNotOpened,
+                                                    "the right given json has errors inside");
+    const json::Object& leftObject = objectOrExit(left);
+    const json::Object& rightObject = objectOrExit(right);
+
+    std::string report;
+    diffObjects(leftObject, rightObject, report, "");
+    writeAll(output.get(), report);
+}
+
+}  // namespace metagen

@@ -1,0 +1,19 @@
+#include "support/json_file.h"
+
+#include <optional>
+#include <utility>
+
+#include "support/process_end.h"
+
+namespace metagen::json {
+
+Value parseFileOrExit(File file, const std::string& unreadable, const std::string& malformed) {
+    const std::optional<std::string> text = readAll(file.get());
+    requireOrExit(text.has_value(), "%s", unreadable.c_str());
+    file.reset();
+    std::optional<Value> document = parse(*text);
+    requireOrExit(document.has_value(), "%s", malformed.c_str());
+    return std::move(*document);
+}
+
+}  // namespace metagen::json
