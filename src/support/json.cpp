@@ -3,6 +3,7 @@
 #include <cmath>
 #include <iterator>
 
+#include "support/json_input.h"
 #include "support/standard_errors.h"
 
 namespace metagen::json {
@@ -25,8 +26,12 @@ public:
 
     bool parse_array_start() { return remaining > 0 && default_parse_context::parse_array_start(); }
 
-    template <typename Iterator>
-    bool parse_array_item(picojson::input<Iterator>& in, std::size_t) {
+    bool parse_string(Input& in) {
+        *out_ = Value(picojson::string_type, false);
+        return _parse_string(out_->get<std::string>(), in);
+    }
+
+    bool parse_array_item(Input& in, std::size_t /*index*/) {
         return parseInto(out_->get<Array>().emplace_back(), in);
     }
 
@@ -34,14 +39,14 @@ public:
         return remaining > 0 && default_parse_context::parse_object_start();
     }
 
-    template <typename Iterator>
-    bool parse_object_item(picojson::input<Iterator>& in, const std::string& key) {
-        return parseInto(out_->get<Object>()[key], in);
+    bool parse_object_item(Input& in, const std::string& key) {
+        // Documents list most members in ascending order: the end is the place to try first.
+        Object& object = out_->get<Object>();
+        return parseInto(object.try_emplace(object.end(), key)->second, in);
     }
 
 private:
-    template <typename Iterator>
-    bool parseInto(Value& item, picojson::input<Iterator>& in) {
+    bool parseInto(Value& item, Input& in) {
         BoundedContext context(&item, depths_, remaining - 1, numberOverflow);
         return picojson::_parse(context, in) && !numberOverflow;
     }
@@ -53,18 +58,19 @@ private:
 }  // namespace
 
 std::optional<Value> parse(std::string_view text) {
-    int lastLine = 0;
-    return parse(text, lastLine);
+    int errorLine = 0;
+    return parse(text, errorLine);
 }
 
-std::optional<Value> parse(std::string_view text, int& lastLine) {
+std::optional<Value> parse(std::string_view text, int& errorLine) {
     Value value;
     bool numberOverflow = false;
     BoundedContext context(&value, picojson::DEFAULT_MAX_DEPTHS, maximumDepth, numberOverflow);
-    picojson::input<const char*> in(text.data(), text.data() + text.size());
-    const bool complete = picojson::_parse(context, in) && !numberOverflow;
-    lastLine = in.line();
-    if (!complete) return std::nullopt;
+    Input in(text);
+    if (!picojson::_parse(context, in) || numberOverflow) {
+        errorLine = in.line();
+        return std::nullopt;
+    }
     return value;
 }
 

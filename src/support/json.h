@@ -28,9 +28,8 @@ inline constexpr std::size_t maximumDepth = 1000;
 /// `maximumDepth`, or holds a number beyond the range of a double.
 std::optional<Value> parse(std::string_view text);
 
-/// The same, and the line, counting from 1, on which the reading ended: of a refused text, the line
-/// of the error.
-std::optional<Value> parse(std::string_view text, int& lastLine);
+/// The same; of a refused text, also the line of the error, counting from 1.
+std::optional<Value> parse(std::string_view text, int& errorLine);
 
 /// The member's value, or null when the object lacks it. The pointer lives as long as the object.
 const Value* find(const Object& object, const std::string& key);
