@@ -1,5 +1,7 @@
 #include "support/text_file.h"
 
+#include <algorithm>
+
 namespace metagen {
 
 void FileCloser::operator()(std::FILE* file) const noexcept {
@@ -7,17 +9,18 @@ void FileCloser::operator()(std::FILE* file) const noexcept {
 }
 
 std::optional<std::string> readAll(std::FILE* file) {
-    constexpr std::size_t smallestRead = std::size_t{1} << 16U;
+    constexpr std::size_t smallestRead = std::size_t{1} << 12U;
     std::string text;
     std::size_t length = 0;
-    while (true) {
-        if (text.size() - length < smallestRead) text.resize(text.size() * 2 + smallestRead);
+    std::size_t wanted = sizeOf(file) + 1;  // one more, so that the file's end shows at once
+    do {
+        text.resize(length + std::max(wanted, smallestRead));
         const std::size_t count = std::fread(text.data() + length, 1, text.size() - length, file);
         length += count;
-        if (count == 0) break;
-    }
-    if (std::ferror(file) != 0) return std::nullopt;
+        wanted = length;  // a file without a size is read in doubling steps
+    } while (length == text.size());
     text.resize(length);
+    if (std::ferror(file) != 0) return std::nullopt;
     return text;
 }
 

@@ -22,6 +22,9 @@ File openForReading(const char* path);
 /// Creates or truncates a text file; null when that fails.
 File openForWriting(const char* path);
 
+/// The number of bytes that the file holds, as far as the system knows; 0 for what has no size.
+std::size_t sizeOf(std::FILE* file);
+
 /// The rest of the file from where it stands; nothing when reading fails.
 std::optional<std::string> readAll(std::FILE* file);
 

@@ -13,6 +13,12 @@ File openForReading(const char* path) {
     return file;
 }
 
+std::size_t sizeOf(std::FILE* file) {
+    struct stat status = {};
+    const bool known = fstat(fileno(file), &status) == 0 && S_ISREG(status.st_mode);
+    return known ? static_cast<std::size_t>(status.st_size) : 0;
+}
+
 File openForWriting(const char* path) { return File(std::fopen(path, "w")); }
 
 }  // namespace metagen

@@ -1,3 +1,5 @@
+#include <io.h>
+
 #include "support/text_file.h"
 
 namespace metagen {
@@ -5,6 +7,11 @@ namespace metagen {
 // The names are UTF-8: the program's manifest makes that the process's code page. Opening a folder
 // fails by itself here.
 File openForReading(const char* path) { return File(std::fopen(path, "r")); }
+
+std::size_t sizeOf(std::FILE* file) {
+    const auto length = _filelengthi64(_fileno(file));
+    return length > 0 ? static_cast<std::size_t>(length) : 0;
+}
 
 File openForWriting(const char* path) { return File(std::fopen(path, "w")); }
 
