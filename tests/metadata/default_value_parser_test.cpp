@@ -28,6 +28,15 @@ using Integers = Read<std::int32_t>;
 using Floats = Read<float>;
 using Vectors = Read<Vector3>;
 
+TEST(HasDefaultValueReader, IsTrueForTheTypesThatAreRead) {
+    for (const int code : {0, 1, 3, 4, 5, 6, 7, 8, 10, 11, 13}) {
+        EXPECT_TRUE(hasDefaultValueReader(code)) << code;
+    }
+    for (const int code : {-1, 2, 9, 12, 14, 15, 16, 17, 18, 100, 10000}) {
+        EXPECT_FALSE(hasDefaultValueReader(code)) << code;
+    }
+}
+
 TEST(ReadFixedFields, NumbersTheFieldsFromTheTypeWord) {
     std::array<float, 2> out = {};
     EXPECT_TRUE(readFixedFields("7(1,2)", std::array{0, 2}, out));
