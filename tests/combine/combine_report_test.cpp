@@ -1,0 +1,88 @@
+#include "combine/combine_report.h"
+
+#include <gtest/gtest.h>
+
+namespace metagen {
+namespace {
+
+using Entries = std::vector<std::string>;
+
+/// A report in the middle of a merge.
+CombineReport reportAt(const std::string& plugin, const std::string& parameter) {
+    CombineReport report;
+    report.currentPlugin = plugin;
+    report.currentParameter = parameter;
+    return report;
+}
+
+TEST(CombineReport, RecordsAPluginTypeUnderThePluginAlone) {
+    CombineReport report = reportAt("MtlA", "diffuse");
+    report.recordChange("type", KeyLevel::plugin, json::Value("light"), "\"material\"");
+    EXPECT_EQ(report.changedPluginTypes, Entries({"MtlA  \"material\" -> \"light\""}));
+    EXPECT_EQ(report.changedParameterTypes, Entries());
+}
+
+TEST(CombineReport, RecordsAParameterType) {
+    CombineReport report = reportAt("MtlA", "diffuse");
+    report.recordChange("type", KeyLevel::parameter, json::Value("color"), "\"texture\"");
+    EXPECT_EQ(report.changedParameterTypes, Entries({"MtlA::diffuse  \"texture\" -> \"color\""}));
+    EXPECT_EQ(report.changedPluginTypes, Entries());
+}
+
+TEST(CombineReport, RecordsADefaultAtAnyLevel) {
+    CombineReport report = reportAt("MtlA", "diffuse");
+    report.recordChange("defaultValue", KeyLevel::plugin, json::Value("1"), "\"0\"");
+    report.recordChange("defaultValue", KeyLevel::parameter, json::Value("3"), "\"2\"");
+    EXPECT_EQ(report.overriddenDefaults,
+              Entries({"MtlA::diffuse  \"0\" -> \"1\"", "MtlA::diffuse  \"2\" -> \"3\""}));
+}
+
+TEST(CombineReport, LeavesTwoBlanksWhereTheOldValueIsMissing) {
+    CombineReport report = reportAt("MtlA", "diffuse");
+    report.recordChange("type", KeyLevel::plugin, json::Value("light"), "");
+    report.recordChange("type", KeyLevel::parameter, json::Value("color"), "");
+    report.recordChange("defaultValue", KeyLevel::parameter, json::Value("1"), "");
+    EXPECT_EQ(report.changedPluginTypes, Entries({"MtlA   -> \"light\""}));
+    EXPECT_EQ(report.changedParameterTypes, Entries({"MtlA::diffuse   -> \"color\""}));
+    EXPECT_EQ(report.overriddenDefaults, Entries({"MtlA::diffuse   -> \"1\""}));
+}
+
+TEST(CombineReport, WritesNewValuesAsCompactJson) {
+    CombineReport report = reportAt("MtlA", "file");
+    report.recordChange("defaultValue", KeyLevel::parameter, json::Value("a/\"b\""), "null");
+    EXPECT_EQ(report.overriddenDefaults, Entries({"MtlA::file  null -> \"a\\/\\\"b\\\"\""}));
+}
+
+TEST(CombineReport, RecordsNoOtherChange) {
+    CombineReport report = reportAt("MtlA", "diffuse");
+    for (const char* key : {"handler", "listType", "Type", "deprecated", "duplicated", ""}) {
+        report.recordChange(key, KeyLevel::plugin, json::Value("new"), "\"old\"");
+        report.recordChange(key, KeyLevel::parameter, json::Value("new"), "\"old\"");
+    }
+    EXPECT_EQ(report.changedPluginTypes, Entries());
+    EXPECT_EQ(report.changedParameterTypes, Entries());
+    EXPECT_EQ(report.overriddenDefaults, Entries());
+    EXPECT_EQ(report.deprecations, Entries());
+    EXPECT_EQ(report.duplications, Entries());
+}
+
+TEST(CombineReport, RecordsTheDeprecationOfAPluginWithNothingBehindTheColons) {
+    CombineReport report = reportAt("MtlA", "");
+    report.recordDeprecation();
+    EXPECT_EQ(report.deprecations, Entries({"MtlA::"}));
+}
+
+TEST(CombineReport, RecordsTheDeprecationOfAParameter) {
+    CombineReport report = reportAt("MtlA", "diffuse");
+    report.recordDeprecation();
+    EXPECT_EQ(report.deprecations, Entries({"MtlA::diffuse"}));
+}
+
+TEST(CombineReport, RecordsADuplicationWithTheLiveText) {
+    CombineReport report = reportAt("MtlA", "diffuse");
+    report.recordDuplication("type", "\"color\"");
+    EXPECT_EQ(report.duplications, Entries({"MtlA::diffuse::type::\"color\""}));
+}
+
+}  // namespace
+}  // namespace metagen
