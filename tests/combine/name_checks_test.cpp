@@ -1,0 +1,151 @@
+#include "combine/name_checks.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+#include "combine/test_documents.h"
+
+namespace metagen {
+namespace {
+
+using testing::internal::CaptureStdout;
+using testing::internal::GetCapturedStdout;
+
+/// What the clash check prints of these plugins, after its answer.
+std::string clashesOf(std::string_view plugins) {
+    CaptureStdout();
+    const bool found = reportNameClashes(objectOf(plugins));
+    return (found ? "found\n" : "none\n") + GetCapturedStdout();
+}
+
+/// What the default value check prints of these plugins.
+std::string defaultsOf(std::string_view plugins) {
+    CaptureStdout();
+    reportUnexpectedDefaults(objectOf(plugins));
+    return GetCapturedStdout();
+}
+
+/// The text of the error with which the default value check gives up; empty when it does not.
+std::string defaultsMessage(std::string_view plugins) {
+    CaptureStdout();
+    const std::string message = messageOf([&] { reportUnexpectedDefaults(objectOf(plugins)); });
+    EXPECT_EQ(GetCapturedStdout(), "");
+    return message;
+}
+
+TEST(ReportNameClashes, FindsNoneInAnEmptyDocument) { EXPECT_EQ(clashesOf("{}"), "none\n"); }
+
+TEST(ReportNameClashes, SkipsPluginsWithoutBothMembers) {
+    EXPECT_EQ(clashesOf(R"({"A":{"params":{"x":1}},"B":{"userData":{"x":1}},"C":{}})"), "none\n");
+}
+
+TEST(ReportNameClashes, SkipsWhatIsNoPlugin) {
+    EXPECT_EQ(clashesOf(R"({"A":null,"B":[],"C":"text"})"), "none\n");
+}
+
+TEST(ReportNameClashes, FindsNoneWhereNamesDiffer) {
+    EXPECT_EQ(clashesOf(R"({"A":{"params":{"x":1,"z":1},"userData":{"X":1,"y":1,"zz":1}}})"),
+              "none\n");
+}
+
+TEST(ReportNameClashes, ListsTheNamesOfAPluginInOneLine) {
+    EXPECT_EQ(clashesOf(R"({"A":{"params":{"x":1,"b":1,"C":1,"a":1},
+                                 "userData":{"x":1,"b":1,"C":1,"y":1}}})"),
+              "found\nA has duplicated named param and userdata - C b x \n");
+}
+
+TEST(ReportNameClashes, GivesEachPluginALine) {
+    EXPECT_EQ(clashesOf(R"({"b":{"params":{"x":1},"userData":{"x":1}},
+                            "A":{"params":{"y":1},"userData":{"y":1}},"a":{}})"),
+              "found\n"
+              "A has duplicated named param and userdata - y \n"
+              "b has duplicated named param and userdata - x \n");
+}
+
+TEST(ReportNameClashes, ThrowsForMembersThatAreNoObjects) {
+    EXPECT_EQ(messageOf([] { clashesOf(R"({"A":{"params":[],"userData":{}}})"); }),
+              noObjectMessage);
+    GetCapturedStdout();
+    EXPECT_EQ(messageOf([] { clashesOf(R"({"A":{"params":{},"userData":1}})"); }), noObjectMessage);
+    GetCapturedStdout();
+}
+
+TEST(ReportUnexpectedDefaults, PrintsNothingOfAnEmptyDocument) { EXPECT_EQ(defaultsOf("{}"), ""); }
+
+TEST(ReportUnexpectedDefaults, LetsEntriesWithATypeOrADefaultPass) {
+    EXPECT_EQ(defaultsOf(R"({"A":{"params":{
+                  "a":{"type":"float","defaultValue":"no number","listType":"float"},
+                  "b":{"type":"float","listType":"float"},
+                  "c":{"defaultValue":"no number","listType":"float"}}}})"),
+              "");
+}
+
+TEST(ReportUnexpectedDefaults, LetsEntriesWithoutAListTypePass) {
+    EXPECT_EQ(defaultsOf(R"({"A":{"params":{"a":{},"b":{"handler":"H"}}}})"), "");
+}
+
+TEST(ReportUnexpectedDefaults, NamesEntriesWhoseListTypeHasAReader) {
+    EXPECT_EQ(defaultsOf(R"({"A":{"params":{"p":{"listType":"float"},"q":{"listType":"color"}},
+                                  "userData":{"u":{"listType":"acolor texture"}}},
+                             "B":{"userData":{"v":{"listType":"bool"}}}})"),
+              "A::p : Unexpected defautValue format for type  = \n"
+              "A::q : Unexpected defautValue format for type  = \n"
+              "A::u : Unexpected defautValue format for type  = \n"
+              "B::v : Unexpected defautValue format for type  = \n");
+}
+
+TEST(ReportUnexpectedDefaults, LetsListTypesWithoutAReaderPass) {
+    for (const char* type : {"string", "double", "list", "none", "Float", "integer texture",
+                             "vector texture", "matrix texture", "transform texture", ""}) {
+        EXPECT_EQ(defaultsOf(R"({"A":{"params":{"p":{"listType":")" + std::string(type) + "\"}}}}"),
+                  "")
+            << type;
+    }
+}
+
+TEST(ReportUnexpectedDefaults, SkipsOtherMembersOfAPlugin) {
+    EXPECT_EQ(defaultsOf(R"({"A":{"type":"light","more":{"p":{"listType":"float"}}}})"), "");
+}
+
+TEST(ReportUnexpectedDefaults, ThrowsForWhatIsNoObject) {
+    EXPECT_EQ(defaultsMessage(R"({"A":null})"), noObjectMessage);
+    EXPECT_EQ(defaultsMessage(R"({"A":{"params":[]}})"), noObjectMessage);
+    EXPECT_EQ(defaultsMessage(R"({"A":{"userData":"text"}})"), noObjectMessage);
+    EXPECT_EQ(defaultsMessage(R"({"A":{"params":{"p":1}}})"), noObjectMessage);
+    EXPECT_EQ(defaultsMessage(R"({"A":{"userData":{"u":null}}})"), noObjectMessage);
+}
+
+TEST(ReportUnexpectedDefaults, ThrowsForMembersOfAnEntryThatAreNoTexts) {
+    EXPECT_EQ(defaultsMessage(R"({"A":{"params":{"p":{"type":1}}}})"), noTextMessage);
+    EXPECT_EQ(defaultsMessage(R"({"A":{"params":{"p":{"type":"float","defaultValue":1}}}})"),
+              noTextMessage);
+    EXPECT_EQ(defaultsMessage(R"({"A":{"userData":{"u":{"type":"list","listType":null}}}})"),
+              noTextMessage);
+}
+
+TEST(CheckNamesAndDefaults, PassesADocumentWithoutPlugins) {
+    CaptureStdout();
+    checkNamesAndDefaults(objectOf(R"({"plugins":{}})"));
+    EXPECT_EQ(GetCapturedStdout(), "");
+}
+
+TEST(CheckNamesAndDefaults, ThrowsWhenPluginsAreMissingOrNoObject) {
+    EXPECT_EQ(messageOf([] { checkNamesAndDefaults(objectOf("{}")); }), "invalid map<K, T> key");
+    EXPECT_EQ(messageOf([] { checkNamesAndDefaults(objectOf(R"({"plugins":[]})")); }),
+              noObjectMessage);
+}
+
+TEST(CheckNamesAndDefaults, AnErrorInTheDefaultsWinsOverAClash) {
+    CaptureStdout();
+    const std::string message = messageOf([] {
+        checkNamesAndDefaults(
+            objectOf(R"({"plugins":{"A":{"params":{"x":{}},"userData":{"x":{}}},"B":1}})"));
+    });
+    EXPECT_EQ(GetCapturedStdout(), "A has duplicated named param and userdata - x \n");
+    EXPECT_EQ(message, noObjectMessage);
+}
+
+}  // namespace
+}  // namespace metagen
