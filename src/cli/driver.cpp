@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/options.h"
+#include "combine/combine.h"
 #include "diff/diff.h"
 #include "genh/genh.h"
 #include "metadata/dump.h"
@@ -55,7 +56,8 @@ std::string_view missingOfConversion(const Options& options) {
 void notYet(const Options& /*options*/) { print("not built yet\n"); }
 
 constexpr std::array<Command, 5> commands = {{
-    {"combine", missingOfConversion, notYet},
+    {"combine", missingOfConversion,
+     [](const Options& options) { combine(options.input, options.output); }},
     {"diff", missingOfDiff,
      [](const Options& options) { diff(options.left, options.right, options.output); }},
     {"dump", missingOfDump, [](const Options& options) { dump(options.output); }},

@@ -1,0 +1,40 @@
+#include "combine/combine.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "combine/combine_report.h"
+#include "combine/combined_document.h"
+#include "combine/documents.h"
+#include "combine/merge.h"
+#include "combine/name_checks.h"
+#include "combine/summary.h"
+#include "combine/texture_handler_checks.h"
+#include "support/process_end.h"
+#include "support/text_file.h"
+
+namespace metagen {
+
+void combine(const char* strippedPath, const char* outputPath) {
+    File strippedFile = openForReading(strippedPath);
+    requireOrExit(strippedFile != nullptr, "Could not open the file - %s", strippedPath);
+    const File output = openForWriting(outputPath);
+    requireOrExit(output != nullptr, "Failed to open the output");
+
+    json::Value stripped = readStrippedDocument(std::move(strippedFile), strippedPath);
+    const std::unique_ptr<Renderer> renderer = createRendererOrExit();
+    json::Value live = readLiveDocument(*renderer);
+    json::Object& strippedObject = strippedObjectOrExit(stripped);
+    json::Object& document = liveObjectOrExit(live);
+
+    CombineReport report;
+    merge(std::move(strippedObject), document, report);
+    const std::string combined = combinedDocument(document);
+    checkNamesAndDefaults(document);
+    checkTextureHandlers(document, report);
+    print(summaryText(std::move(report)));
+    writeAll(output.get(), combined);
+}
+
+}  // namespace metagen
