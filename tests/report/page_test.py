@@ -1,0 +1,227 @@
+"""The page of metagen-report, in a headless Chromium."""
+
+import json
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from browser import Browser
+from summary_text import SUMMARY
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+TOOL = ROOT / "tools" / "metagen-report"
+SHOTS = pathlib.Path(os.environ.get("METAGEN_BUILD", ROOT / "build" / "release")) / "report"
+BUNDLED = ROOT / "tests" / "golden" / "dump" / "bundled" / "base.json"
+
+# What the page shows: for each visible group its name and kind, and for each visible entry of it
+# kind, name, section, and rows of cell texts.
+READ_PAGE = """
+[...document.querySelectorAll("main > details:not([hidden])")].map(group => [
+  group.querySelector(".name").textContent, group.dataset.kind,
+  [...group.querySelectorAll("tbody:not([hidden])")].map(body => [
+    body.dataset.kind, body.querySelector("b").textContent,
+    body.querySelector(".section")?.textContent ?? "",
+    [...body.rows].map(row => [...row.querySelectorAll("td")].map(cell => cell.innerText))])])
+"""
+
+HOSTILE = '"><img src=x onerror=alert(1)></script><script>alert(2)</script>'
+
+
+def light(**params):
+    return {"type": "light", "params": params}
+
+
+LEFT = {"plugins": {
+    "Gone": light(size={"type": "float", "defaultValue": "1"}),
+    "Lamp": {"type": "light", "userData": {},
+             "params": {"color": {"type": "color", "defaultValue": "Color(1, 0.5, 0)"},
+                        "old": {"type": "bool"},
+                        "same": {"type": "integer", "defaultValue": "7"}}},
+    "Same": light()}}
+RIGHT = {"version": 3, "plugins": {
+    "Lamp": {"type": None, "userData": {"note": {"type": "string", "defaultValue": ""}},
+             "params": {"color": {"type": "color", "defaultValue": "Color(0, 0, 2)",
+                                  "handler": "ColorTexFrameHandler"},
+                        "same": {"type": "integer", "defaultValue": "7"}}},
+    "New": light(**{HOSTILE: {"type": "string", "defaultValue": HOSTILE}}),
+    "Same": light()}}
+
+SHOWN = [
+    ["the document itself", "changed", [["added", "version", "", [["", "—", "3"]]]]],
+    ["Gone", "removed", [
+        ["removed", "type", "plugin", [["", "light", "—"]]],
+        ["removed", "size", "", [["type", "float", "—"], ["defaultValue", "1", "—"]]]]],
+    ["Lamp", "changed", [
+        ["changed", "type", "plugin", [["", "light", "null"]]],
+        ["changed", "color", "", [["defaultValue", "Color(1, 0.5, 0)", "Color(0, 0, 2)"],
+                                  ["handler", "—", "ColorTexFrameHandler"]]],
+        ["removed", "old", "", [["type", "bool", "—"]]],
+        ["added", "note", "user data", [["type", "—", "string"],
+                                        ["defaultValue", "—", "empty text"]]]]],
+    ["New", "added", [
+        ["added", "type", "plugin", [["", "—", "light"]]],
+        ["added", HOSTILE, "", [["type", "—", "string"], ["defaultValue", "—", HOSTILE]]]]],
+]
+
+
+def names(shown):
+    """The groups and entries of what a page shows, without their values."""
+    return [(group, [entry[1] for entry in entries]) for group, _, entries in shown]
+
+
+class PageTest(unittest.TestCase):
+    maxDiff = None
+
+    @classmethod
+    def setUpClass(cls):
+        cls.browser = cls.enterClassContext(Browser())
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory(prefix="metagen-test-")
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+
+    def make_page(self, left, right):
+        paths = [self.folder / "left.json", self.folder / "right.json"]
+        for path, document in zip(paths, (left, right)):
+            path.write_text(json.dumps(document), encoding="utf-8")
+        page = self.folder / "page.html"
+        subprocess.run([sys.executable, TOOL, *paths, "-o", page], check=True)
+        return page
+
+    def open(self, page):
+        """Opens a page, which must be silent and load nothing; gives the seconds taken."""
+        seconds = self.browser.open(page)
+        self.assertEqual([], self.browser.complaints())
+        self.assertEqual([page.resolve().as_uri()], self.browser.requests())
+        return seconds
+
+    def shown(self):
+        return self.browser.evaluate(READ_PAGE)
+
+    def text(self, selector):
+        return self.browser.evaluate(f"document.querySelector('{selector}').innerText")
+
+    def filter(self, text):
+        self.browser.evaluate("document.getElementById('filter').focus()")
+        return self.browser.type(text)
+
+    def test_it_shows_what_the_documents_hold_and_runs_nothing_of_it(self):
+        self.open(self.make_page(LEFT, RIGHT))
+        self.assertEqual(SHOWN, self.shown())
+        self.assertEqual("From left.json to right.json", self.text("h1"))
+        self.assertEqual("1 plugin added, 1 plugin removed, 1 plugin changed.",
+                         self.text("#overview"))
+        self.assertEqual("9 of 9 entries", self.text("#shown"))
+        self.assertEqual(1, self.browser.evaluate("document.scripts.length"))
+        self.assertEqual(0, self.browser.evaluate("document.images.length"))
+        self.assertEqual([], self.browser.complaints())
+
+    def test_it_could_load_nothing_if_it_wanted_to(self):
+        self.open(self.make_page(LEFT, RIGHT))
+        self.assertEqual("img-src", self.browser.evaluate("""new Promise(done => {
+            addEventListener("securitypolicyviolation", event => done(event.effectiveDirective));
+            setTimeout(() => done("loaded"), 5000);
+            new Image().src = "page.png";
+        })"""))
+
+    def test_a_colour_has_a_swatch(self):
+        self.open(self.make_page(LEFT, RIGHT))
+        self.assertEqual(
+            [["rgb(255 128 0 / 1)", "Color(1, 0.5, 0)"], ["rgb(0 0 255 / 1)", "Color(0, 0, 2)"]],
+            self.browser.evaluate("""[...document.querySelectorAll(".swatch")].map(
+                swatch => [swatch.style.getPropertyValue("--color"),
+                           swatch.parentElement.innerText])"""))
+        self.assertIn("rgb(255, 128, 0)", self.browser.evaluate(
+            "getComputedStyle(document.querySelector('.swatch')).backgroundImage"))
+
+    def test_the_filter_takes_words_of_names_and_values(self):
+        self.open(self.make_page(LEFT, RIGHT))
+        self.filter("lamp COLOR")
+        self.assertEqual([("Lamp", ["color"])], names(self.shown()))
+        self.assertEqual("1 of 9 entries", self.text("#shown"))
+        self.browser.press("Escape")
+        self.assertEqual(names(SHOWN), names(self.shown()))
+        self.filter("colortexframe")
+        self.assertEqual([("Lamp", ["color"])], names(self.shown()))
+        self.browser.press("Escape")
+        self.filter("nowhere")
+        self.assertEqual([], self.shown())
+        self.assertEqual("Nothing fits the filter.", self.text("#nothing"))
+
+    def test_the_slash_key_leads_to_the_filter(self):
+        self.open(self.make_page(LEFT, RIGHT))
+        self.browser.press("/", text="/")
+        self.browser.type("size")
+        self.assertEqual([("Gone", ["size"])], names(self.shown()))
+
+    def test_the_boxes_choose_kinds(self):
+        self.open(self.make_page(LEFT, RIGHT))
+        self.browser.click("#kinds input[value=added]")
+        self.browser.click("#kinds input[value=changed]")
+        self.assertEqual([("Gone", ["type", "size"]), ("Lamp", ["old"])], names(self.shown()))
+
+    def test_the_buttons_close_and_open_groups(self):
+        opened = "document.querySelectorAll('details[open]').length"
+        self.open(self.make_page(LEFT, RIGHT))
+        self.browser.click("#close")
+        self.assertEqual(0, self.browser.evaluate(opened))
+        self.browser.click("#open")
+        self.assertEqual(4, self.browser.evaluate(opened))
+
+    def test_equal_documents_have_no_differences(self):
+        self.open(self.make_page(LEFT, LEFT))
+        self.assertEqual([], self.shown())
+        self.assertEqual("No differences.", self.text("#overview"))
+
+    def test_the_bundled_catalogue_against_a_changed_one(self):
+        text = BUNDLED.read_text(encoding="utf-8")
+        base = json.loads(text)
+        changed = json.loads(text.replace("Color(1, ", "Color(0.2, "))
+        del changed["plugins"]["SunLight"]
+        page = self.make_page(base, changed)
+        self.open(page)
+        shown = {group for group, _, _ in self.shown()}
+        differing = {name for name, plugin in base["plugins"].items()
+                     if plugin != changed["plugins"].get(name)}
+        self.assertEqual(differing, shown)
+        self.browser.screenshot(SHOTS / "bundled.png")
+
+    def test_a_summary(self):
+        page = self.folder / "page.html"
+        summary = self.folder / "summary.txt"
+        summary.write_text(SUMMARY, encoding="utf-8")
+        subprocess.run([sys.executable, TOOL, "-s", summary, "-o", page], check=True)
+        self.open(page)
+        self.assertEqual([("Gone", [""]), ("Lamp", ["", "size", "color", "color", "", "old", "",
+                                                    "size"]),
+                          ("Own", [""]), ("Two  blanks", ["new"]), ("Zoo", ["a"])],
+                         names(self.shown()))
+        self.assertEqual("1 plugin added, 1 plugin removed, 2 plugins changed,"
+                         " 1 plugin duplicated.", self.text("#overview"))
+        self.assertEqual("Lamp has an odd default", self.text("#notes"))
+        self.browser.screenshot(SHOTS / "summary.png")
+
+    def test_600_plugins_open_and_filter_within_a_second(self):
+        def document(value):
+            params = {f"parameter_{number}": {"type": "color",
+                                              "defaultValue": f"Color({value}, 0.5, 0.{number})"}
+                      for number in range(20)}
+            return {"plugins": {f"Plugin{number}": light(**params) for number in range(600)}}
+
+        page = self.make_page(document(0), document(1))
+        self.assertLess(self.open(page), 1)
+        self.assertEqual("12000 of 12000 entries", self.text("#shown"))
+        self.browser.screenshot(SHOTS / "600.png")
+        self.assertLess(self.filter("plugin599 parameter_19"), 1)
+        self.assertEqual([("Plugin599", ["parameter_19"])], names(self.shown()))
+        self.browser.evaluate("document.getElementById('filter').select()")
+        self.assertLess(self.browser.type("parameter_7"), 1)
+        self.assertEqual("600 of 12000 entries", self.text("#shown"))
+
+
+if __name__ == "__main__":
+    unittest.main()

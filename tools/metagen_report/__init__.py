@@ -1,0 +1,1 @@
+"""The parts of metagen-report: what it reads, what it found, and the page that it makes of it."""

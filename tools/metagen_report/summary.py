@@ -1,0 +1,154 @@
+"""Reads a summary that metagen combine printed: six headed and numbered lists, and before them the
+messages of its checks."""
+
+import json
+import re
+
+from .report import (ABSENT, ADDED, CHANGED, DUPLICATED, FAILED, REMOVED, Entry, Group, Report,
+                     Row)
+
+# The headings as combine prints them, each with what its list holds. One has no blank before the
+# number, which is as combine has it.
+_HEADINGS = (
+    ("Number of changed plugin types: ", "plugin type"),
+    ("Changed parameter types: ", "type"),
+    ("Overriding defaultValue:", "defaultValue"),
+    ("Number of handler integrity checks failures: ", FAILED),
+    ("Number of deprecations: ", REMOVED),
+    ("Number of duplications: ", DUPLICATED),
+)
+
+
+class UnreadableSummary(Exception):
+    """A text that is no summary of combine; the text says what is missing."""
+
+
+def _read_list(text, position, count):
+    """The entries of a numbered list, of which one may hold line breaks, and where it ends."""
+    entries = []
+    for number in range(1, count + 1):
+        start = f"{number}. "
+        if not text.startswith(start, position):
+            raise UnreadableSummary(f"an entry {number} is missing")
+        position += len(start)
+        following = f"\n{number + 1}. " if number < count else "\n"
+        end = text.find(following, position)
+        if end < 0:
+            raise UnreadableSummary(f"entry {number} has no end")
+        entries.append(text[position:end])
+        position = end + 1
+    return entries, position
+
+
+def _read_lists(text):
+    """The messages before the lists, and for each list what it holds with its entries."""
+    first = re.search(f"^{re.escape(_HEADINGS[0][0])}[0-9]+$", text, re.MULTILINE)
+    position = first.start() if first else 0
+    messages = text[:position].splitlines()
+    lists = []
+    for heading, holds in _HEADINGS:
+        match = re.compile(rf"\n?{re.escape(heading)}([0-9]+)\n").match(text, position)
+        if match is None:
+            raise UnreadableSummary(f'the heading "{heading.rstrip()}" is missing')
+        entries, position = _read_list(text, match.end(), int(match[1]))
+        lists.append((holds, entries))
+    return messages, lists
+
+
+def _value_at(text, position):
+    """The JSON value that begins there, or ABSENT, and where it ends."""
+    try:
+        return json.JSONDecoder().raw_decode(text, position)
+    except (ValueError, RecursionError):
+        return ABSENT, position
+
+
+def _split_change(text):
+    """A change, "name  old -> new" with JSON values, as its three pieces. Names may hold blanks, so
+    the first place counts from which the rest reads as a change."""
+    for blanks in re.finditer("  ", text):
+        old, position = _value_at(text, blanks.end())
+        if text.startswith(" -> ", position):
+            new, end = _value_at(text, position + len(" -> "))
+            if end == len(text) and new is not ABSENT:
+                return text[:blanks.start()], old, new
+    raise UnreadableSummary(f"no change: {text}")
+
+
+def _split_name(text):
+    plugin, _, parameter = text.partition("::")
+    return plugin, parameter
+
+
+def _change(holds, text):
+    name, old, new = _split_change(text)
+    kind = ADDED if old is ABSENT else CHANGED
+    if holds == "plugin type":
+        return name, Entry(kind, "", "", [Row("type", old, new)])
+    plugin, parameter = _split_name(name)
+    return plugin, Entry(kind, "", parameter, [Row(holds, old, new)])
+
+
+def _failure(text):
+    name, _, message = text.partition(": ")
+    plugin, parameter = _split_name(name)
+    return plugin, Entry(FAILED, "", parameter, [Row("", note=message)])
+
+
+def _deprecation(text):
+    plugin, parameter = _split_name(text)
+    note = "parameter removed" if parameter else "plugin removed"
+    return plugin, Entry(REMOVED, "", parameter, [Row("", note=note)])
+
+
+def _duplication(text):
+    """Plugin::parameter::key::value, with a parameter that is empty at the plugin's level."""
+    plugin, rest = _split_name(text)
+    parameter, rest = _split_name(rest)
+    key, value_text = _split_name(rest)
+    value, end = _value_at(value_text, 0)
+    if value is ABSENT or end != len(value_text):
+        raise UnreadableSummary(f"no duplication: {text}")
+    return plugin, Entry(DUPLICATED, "", parameter, [Row(key, value, value)])
+
+
+_READERS = {FAILED: _failure, REMOVED: _deprecation, DUPLICATED: _duplication}
+
+
+class _Groups:
+    """The groups found so far. Rows of one parameter and kind stand together."""
+
+    def __init__(self):
+        self.groups = {}
+        self.entries = {}
+
+    def add(self, plugin, entry):
+        group = self.groups.setdefault(plugin, Group(CHANGED, plugin))
+        if not entry.name and entry.kind in (ADDED, REMOVED):
+            group.kind = entry.kind
+        present = self.entries.setdefault((plugin, entry.kind, entry.name), entry)
+        if present is entry:
+            group.entries.append(entry)
+        else:
+            present.rows += entry.rows
+
+    def in_order(self):
+        for group in self.groups.values():
+            kinds = {entry.kind for entry in group.entries}
+            if kinds in ({DUPLICATED}, {FAILED}):
+                group.kind = kinds.pop()
+        return [self.groups[plugin] for plugin in sorted(self.groups)]
+
+
+def read_summary(text, name):
+    """The report of a summary. The name is for its title."""
+    messages, lists = _read_lists(text.replace("\r\n", "\n"))
+    groups = _Groups()
+    for holds, entries in lists:
+        for entry_text in entries:
+            if holds in _READERS:
+                groups.add(*_READERS[holds](entry_text))
+            else:
+                groups.add(*_change(holds, entry_text))
+    return Report(f"What combine found: {name}", "SDK", "stripped document", messages,
+                  groups.in_order())
