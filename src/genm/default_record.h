@@ -1,0 +1,58 @@
+// The default value of one parameter as the tables hold it: read once from its text, written as
+// generated source and as a record of the binary table.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "genm/descriptor.h"
+#include "genm/value_arrays.h"
+#include "model/combined_model.h"
+#include "model/obstream.h"
+
+namespace metagen {
+
+/// A value that is known only by its type.
+struct DescriptorOnly {
+    const Descriptor* descriptor;
+};
+
+struct IntegerArray {
+    const Descriptor* descriptor;
+    std::vector<std::int32_t> values;
+};
+
+/// The floats of all elements, one after the other. A single value that could not be read has
+/// none; a list without elements has none, too.
+struct FloatArray {
+    const Descriptor* descriptor;
+    std::string_view prefix;  ///< the group of its value array
+    std::vector<float> values;
+};
+
+/// The index of the alternative is the kind of the binary record. A text is borrowed from the
+/// model.
+using DefaultRecord =
+    std::variant<std::int32_t, float, std::string_view, DescriptorOnly, IntegerArray, FloatArray>;
+
+/// Reads the default of a type. The text may be null, for none, only where the code is a list's.
+/// Integers, bools, floats and float textures throw the errors of `parseInteger` and `parseFloat`.
+/// A code without a rule prints "unsupported type" and a line feed on standard output and ends the
+/// process with status -1.
+DefaultRecord readTypedDefault(std::int32_t code, const std::string* text);
+
+/// Reads the parameter's default. One that is no list and has no default text has the empty text,
+/// or 0 when it is an integer, and its type is not looked at any further.
+DefaultRecord readDefault(const ParamEntry& parameter);
+
+/// Appends the default as generated source: a literal, or a descriptor and, where there are values,
+/// the name of the array that holds them.
+void appendDefault(std::string& out, DefaultRecord record, ValueArrays& groups);
+
+/// Writes the binary record. It carries the values themselves, not the arrays' names.
+void writeDefault(BinaryFile& file, const DefaultRecord& record);
+
+}  // namespace metagen

@@ -1,0 +1,178 @@
+// How the default of each type is read. The table below is the only place that knows the types.
+#include <algorithm>
+#include <array>
+
+#include "genm/default_record.h"
+#include "genm/stop.h"
+#include "metadata/default_value_parser.h"
+#include "metadata/parameter_type.h"
+#include "support/standard_errors.h"
+
+namespace metagen {
+
+namespace {
+
+/// One type. A list without a default, or whose default is refused, has its fallback descriptor
+/// alone; a list text without elements is a list all the same unless the rule says otherwise.
+struct DefaultRule {
+    std::int32_t code;
+    DefaultRecord (*read)(const DefaultRule& rule, const std::string* text);
+    const Descriptor* descriptor = nullptr;  ///< of the values that were read
+    std::string_view prefix = {};            ///< of the arrays that hold them
+    const Descriptor* fallback = nullptr;
+    bool fallsBackWhenEmpty = false;
+};
+
+constexpr bool emptyFallsBack = true;
+
+constexpr std::string_view noText;
+
+DefaultRecord readInteger(const DefaultRule& /*rule*/, const std::string* text) {
+    return std::int32_t{parseInteger(*text)};
+}
+
+DefaultRecord readFloat(const DefaultRule& /*rule*/, const std::string* text) {
+    return parseFloat(*text);
+}
+
+DefaultRecord readText(const DefaultRule& /*rule*/, const std::string* text) {
+    return std::string_view(*text);
+}
+
+DefaultRecord readNothing(const DefaultRule& /*rule*/, const std::string* /*text*/) {
+    return noText;
+}
+
+DefaultRecord readDescriptor(const DefaultRule& rule, const std::string* /*text*/) {
+    return DescriptorOnly{rule.descriptor};
+}
+
+template <std::size_t count, bool (*parse)(std::string_view, std::span<float, count>)>
+DefaultRecord readComponents(const DefaultRule& rule, const std::string* text) {
+    std::array<float, count> components = {};
+    FloatArray result = {rule.descriptor, rule.prefix, {}};
+    if (parse(*text, components)) result.values.assign(components.begin(), components.end());
+    return result;
+}
+
+/// A texture stands for a colour, with or without alpha, where its default reads as one.
+DefaultRecord readTexture(const DefaultRule& /*rule*/, const std::string* text) {
+    std::array<float, 4> components = {};
+    if (parseAColor(*text, components)) {
+        return FloatArray{
+            &descriptor::acolor, array_prefix::acolor, {components.begin(), components.end()}};
+    }
+    if (parseVector3(*text, std::span(components).first<3>())) {
+        return FloatArray{&descriptor::vector3,
+                          array_prefix::color,
+                          {components.begin(), components.begin() + 3}};
+    }
+    return noText;
+}
+
+DefaultRecord listOf(const DefaultRule& rule, std::vector<std::int32_t> values) {
+    return IntegerArray{rule.descriptor, std::move(values)};
+}
+
+DefaultRecord listOf(const DefaultRule& rule, std::vector<float> values) {
+    return FloatArray{rule.descriptor, rule.prefix, std::move(values)};
+}
+
+template <std::size_t count>
+DefaultRecord listOf(const DefaultRule& rule, const std::vector<std::array<float, count>>& list) {
+    FloatArray result = {rule.descriptor, rule.prefix, {}};
+    result.values.reserve(list.size() * count);
+    for (const std::array<float, count>& element : list) {
+        result.values.insert(result.values.end(), element.begin(), element.end());
+    }
+    return result;
+}
+
+template <typename Element, bool (*parse)(std::string_view, std::vector<Element>&)>
+DefaultRecord readList(const DefaultRule& rule, const std::string* text) {
+    std::vector<Element> elements;
+    const bool isRead = text != nullptr && parse(*text, elements);
+    if (!isRead || (rule.fallsBackWhenEmpty && elements.empty()))
+        return DescriptorOnly{rule.fallback};
+    return listOf(rule, std::move(elements));
+}
+
+constexpr auto readVector3 = readComponents<3, parseVector3>;
+constexpr auto readAColor = readComponents<4, parseAColor>;
+constexpr auto readMatrix = readComponents<9, parseMatrix>;
+constexpr auto readTransform = readComponents<12, parseTransform>;
+constexpr auto readIntegers = readList<std::int32_t, parseIntList>;
+constexpr auto readFloats = readList<float, parseFloatList>;
+constexpr auto readVector3s = readList<Vector3, parseVector3List>;
+constexpr auto readAColors = readList<AColor, parseAColorList>;
+constexpr auto readMatrices = readList<Matrix, parseMatrixList>;
+constexpr auto readTransforms = readList<Transform, parseTransformList>;
+
+constexpr std::int32_t listCode(std::int32_t elementCode) {
+    return elementCode + type_code::listOffset;
+}
+
+namespace code = type_code;
+namespace shape = descriptor;
+namespace prefix = array_prefix;
+
+// Types that are not listed, a double and a list of doubles among them, deliberately have no
+// descriptor. The plain lists fall back to their own descriptor, the lists of plugins and textures
+// to the one of strings: deliberate, too, hosts tell them apart by it.
+constexpr std::array<DefaultRule, 34> rules = {{
+    {code::integer, readInteger},
+    {code::floatNumber, readFloat},
+    {code::boolean, readInteger},
+    {code::vector, readVector3, &shape::vector3, prefix::vector},
+    {code::color, readVector3, &shape::vector3, prefix::color},
+    {code::acolor, readAColor, &shape::acolor, prefix::acolor},
+    {code::matrix, readMatrix, &shape::matrix, prefix::matrix},
+    {code::transform, readTransform, &shape::transform, prefix::transform},
+    {code::string, readText},
+    {code::plugin, readTexture},
+    {code::texture, readTexture},
+    {code::list, readDescriptor, &shape::stringList},
+    {code::floatTexture, readFloat},
+    {code::integerTexture, readNothing},
+    {code::vectorTexture, readNothing},
+    {code::matrixTexture, readNothing},
+    {code::transformTexture, readNothing},
+    {listCode(code::integer), readIntegers, &shape::integerList, prefix::integers,
+     &shape::integerList, emptyFallsBack},
+    {listCode(code::floatNumber), readFloats, &shape::floatList, prefix::floats, &shape::floatList,
+     emptyFallsBack},
+    {listCode(code::boolean), readIntegers, &shape::integerList, prefix::integers,
+     &shape::integerList, emptyFallsBack},
+    {listCode(code::vector), readVector3s, &shape::vector3List, prefix::vector,
+     &shape::vector3List},
+    {listCode(code::color), readVector3s, &shape::vector3List, prefix::color, &shape::vector3List},
+    {listCode(code::acolor), readAColors, &shape::acolorList, prefix::acolor, &shape::acolorList},
+    {listCode(code::matrix), readMatrices, &shape::matrixList, prefix::matrix, &shape::matrixList},
+    {listCode(code::transform), readTransforms, &shape::transformList, prefix::transform,
+     &shape::transformList},
+    {listCode(code::string), readDescriptor, &shape::stringList},
+    {listCode(code::plugin), readFloats, &shape::floatList, prefix::floats, &shape::stringList,
+     emptyFallsBack},
+    {listCode(code::texture), readDescriptor, &shape::stringList},
+    {listCode(code::floatTexture), readFloats, &shape::floatList, prefix::floats,
+     &shape::stringList, emptyFallsBack},
+    {listCode(code::integerTexture), readIntegers, &shape::integerList, prefix::integers,
+     &shape::stringList},
+    {listCode(code::vectorTexture), readVector3s, &shape::vector3List, prefix::vector,
+     &shape::stringList},
+    {listCode(code::matrixTexture), readMatrices, &shape::matrixList, prefix::matrix,
+     &shape::stringList},
+    {listCode(code::transformTexture), readTransforms, &shape::transformList, prefix::transform,
+     &shape::stringList},
+    {code::unspecified, readNothing},
+}};
+
+}  // namespace
+
+DefaultRecord readTypedDefault(std::int32_t code, const std::string* text) {
+    const auto rule = std::ranges::find(rules, code, &DefaultRule::code);
+    if (rule != rules.end()) return rule->read(*rule, text);
+    stop("unsupported type\n");
+}
+
+}  // namespace metagen

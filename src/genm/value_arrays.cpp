@@ -1,0 +1,95 @@
+#include "genm/value_arrays.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <utility>
+
+#include "support/number_text.h"
+#include "support/numeric.h"
+
+namespace metagen {
+
+namespace {
+
+/// Arrays that compare equal have equal hashes.
+std::size_t hashOf(std::span<const float> values) {
+    constexpr std::uint64_t multiplier = 0x9E3779B97F4A7C15U;
+    std::uint64_t hash = values.size();
+    for (const float value : values) {
+        const float folded = value == 0.0F ? 0.0F : value;  // -0 counts as 0
+        hash = (hash ^ std::bit_cast<std::uint32_t>(folded)) * multiplier;
+        hash ^= hash >> 32U;
+    }
+    return static_cast<std::size_t>(hash);
+}
+
+bool hasNan(std::span<const float> values) {
+    return std::ranges::any_of(values, [](float value) { return std::isnan(value); });
+}
+
+/// The element text of an integer array: its values are kept as floats, too.
+void appendWhole(std::string& out, float value) {
+    appendInteger(out, toInt64(static_cast<double>(value)));
+}
+
+void appendValues(std::string& out, std::string_view prefix, std::span<const float> values) {
+    const auto appendValue = prefix == array_prefix::integers ? appendWhole : appendFloatLiteral;
+    const char* separator = " { ";
+    for (const float value : values) {
+        out += separator;
+        appendValue(out, value);
+        separator = ", ";
+    }
+    // Without values the opening brace is missing. Deliberate: the format's separators are taken
+    // back two characters after the last value, and here these are the brace and its blank.
+    out += values.empty() ? " };\n" : "};\n";
+}
+
+}  // namespace
+
+std::size_t ValueArrayGroup::intern(std::vector<float> values) {
+    const std::size_t number = arrays.size();
+    // An array with a NaN is kept out of the index: it would only be compared in vain.
+    if (!hasNan(values)) {
+        const std::size_t hash = hashOf(values);
+        const auto [first, last] = numbersByHash.equal_range(hash);
+        const auto equal = std::find_if(
+            first, last, [&](const auto& entry) { return arrays[entry.second] == values; });
+        if (equal != last) return equal->second;
+        numbersByHash.emplace(hash, number);
+    }
+    arrays.push_back(std::move(values));
+    return number;
+}
+
+void ValueArrayGroup::appendDefinitions(std::string& out) const {
+    std::vector<std::pair<std::string, std::size_t>> namedNumbers(arrays.size());
+    for (std::size_t number = 0; number < arrays.size(); ++number) {
+        namedNumbers[number] = {std::to_string(number), number};
+    }
+    std::ranges::sort(namedNumbers);
+    const bool isInteger = prefix == array_prefix::integers;
+    for (const auto& [digits, number] : namedNumbers) {
+        out += isInteger ? "static constexpr int " : "static constexpr float ";
+        out += prefix;
+        out += digits;
+        out += "[] =";
+        appendValues(out, prefix, arrays[number]);
+    }
+}
+
+void internValueArray(std::string& out, std::vector<float> values, ValueArrays& groups,
+                      std::string_view prefix) {
+    auto group = std::ranges::find(groups, prefix, &ValueArrayGroup::namePrefix);
+    if (group == groups.end()) group = groups.emplace(group, prefix);
+    out += prefix;
+    appendInteger(out, static_cast<std::int64_t>(group->intern(std::move(values))));
+}
+
+void appendDefinitions(std::string& out, const ValueArrays& groups) {
+    for (const ValueArrayGroup& group : groups) group.appendDefinitions(out);
+}
+
+}  // namespace metagen

@@ -1,0 +1,57 @@
+// The constant arrays at the head of generated source: every content once in its group, whatever
+// the number of parameters that use it.
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace metagen {
+
+/// The prefixes of the array names; each names a group. Colours and vectors stay apart.
+namespace array_prefix {
+inline constexpr std::string_view acolor = "aclr";
+inline constexpr std::string_view color = "clr";
+inline constexpr std::string_view vector = "vec";
+inline constexpr std::string_view matrix = "matr";
+inline constexpr std::string_view transform = "trans";
+inline constexpr std::string_view floats = "flt";
+inline constexpr std::string_view integers = "inte";  ///< the one group of integer arrays
+}  // namespace array_prefix
+
+/// Arrays that share a name prefix and an element type.
+class ValueArrayGroup {
+public:
+    explicit ValueArrayGroup(std::string_view namePrefix) : prefix(namePrefix) {}
+
+    std::string_view namePrefix() const { return prefix; }
+
+    /// The number of the array that equals the values, which is new when none does. Elements are
+    /// compared as floats: 0 equals -0, and an array with a NaN equals none.
+    std::size_t intern(std::vector<float> values);
+
+    /// Appends a line for each array, in ascending order of the names: "vec10" before "vec2".
+    void appendDefinitions(std::string& out) const;
+
+private:
+    std::string_view prefix;
+    std::vector<std::vector<float>> arrays;  ///< by number, which is the order of first use
+    /// The numbers of the arrays by a hash of their values, but for those with a NaN.
+    std::unordered_multimap<std::size_t, std::size_t> numbersByHash;
+};
+
+/// The groups, in the order of their first use.
+using ValueArrays = std::vector<ValueArrayGroup>;
+
+/// Finds or makes the array of the values in the prefix's group and appends its name: the prefix
+/// and the array's number.
+void internValueArray(std::string& out, std::vector<float> values, ValueArrays& groups,
+                      std::string_view prefix);
+
+/// Appends the definitions of all arrays, each a line of generated source.
+void appendDefinitions(std::string& out, const ValueArrays& groups);
+
+}  // namespace metagen
