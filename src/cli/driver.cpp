@@ -10,6 +10,7 @@
 #include "combine/combine.h"
 #include "diff/diff.h"
 #include "genh/genh.h"
+#include "genm/genm.h"
 #include "metadata/dump.h"
 #include "sdk/exceptions.h"
 #include "sdk/sdk_session.h"
@@ -53,8 +54,6 @@ std::string_view missingOfConversion(const Options& options) {
     return options.input == nullptr ? inputMissing : missingOfDump(options);
 }
 
-void notYet(const Options& /*options*/) { print("not built yet\n"); }
-
 constexpr std::array<Command, 5> commands = {{
     {"combine", missingOfConversion,
      [](const Options& options) { combine(options.input, options.output); }},
@@ -63,7 +62,8 @@ constexpr std::array<Command, 5> commands = {{
     {"dump", missingOfDump, [](const Options& options) { dump(options.output); }},
     {"genh", missingOfConversion,
      [](const Options& options) { genh(options.input, options.output); }},
-    {"genm", missingOfConversion, notYet},
+    {"genm", missingOfConversion,
+     [](const Options& options) { genm(options.input, options.output); }},
 }};
 
 /// A word that names no command is checked like a conversion, and is then no error.
