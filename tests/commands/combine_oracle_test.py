@@ -1,133 +1,75 @@
-"""Compares combine with its independent counterpart in tests/oracle, on random documents."""
+"""Compares combine with its independent counterpart in tests/oracle."""
 
 import json
-import random
 import sys
 import unittest
 
-from harness import ABORTED, LAUNCHER, ROOT, CommandTest
+from harness import ABORTED, GOLDEN, LAUNCHER, ROOT, CommandTest, golden_text
 
 sys.path.insert(0, str(ROOT / "tests" / "oracle"))
-import combine as oracle  # pylint: disable=wrong-import-position
+import combine as oracle  # noqa: E402
+from random_stripped import Documents  # noqa: E402
+
+ARGUMENTS = ["combine", "-i", "stripped.json", "-o", "combined.json"]
+
+EXAMPLE = ROOT / "examples" / "stripped.json"
+BASE = GOLDEN / "dump" / "bundled" / "base.json"
 
 # Starting a process takes longer through a launcher.
 SEEDS = range(60 if LAUNCHER else 400)
 
-CATEGORIES = ("material", "texture", "light", "BRDF", None)
-# No two of these names are equal in the combined order.
-PLUGINS = ("Mtl", "mtl.b", "MTL_c", "Tex", "a", "Z9", "\u00e9clair", "\u6771")
-NAMES = ("n", "m_x", "M.y", "type", "N2", "n_color", "k_tex", "\u00fc")
-ADDED_NAMES = NAMES + ("M_X", "q", 'a"b', "tYPE")
-VALUES = (("float", "1"), ("float", "0.5"), ("color", "Color(1, 0.5, 0)"), ("bool", "1"),
-          ("string", "a/b \u00e9"), ("texture", "AColor(1, 1, 1, 1)"), ("integer", "-7"))
-HANDLERS = ("ColorTexFrameHandler", "FloatTexFrameHandler", "DuplicateHandler", "")
-SUFFIXES = ("_tex", "_tex_on", "_tex_mult", "_res_mult", "_color", "_float")
-OTHER_SUFFIXES = ("_duplicate", "_tex_on_color", "")
-LEAVES = (None, True, 0, 2.5, -0.0, 1e300, 2 ** 53, "text/\t\x7f", [], [1, {"type": [], "B": 0}])
 
+class BundledCatalogue(CommandTest):
+    """The example's stripped document, over the catalogue that comes with the replay SDK."""
 
-class Documents:
-    """A live and a stripped document that have much in common."""
+    def test_combines_as_the_rules_say(self):
+        self.write("stripped.json", EXAMPLE.read_bytes())
+        self.assert_run(ARGUMENTS, stdout=golden_text("combine", "bundled", "summary.txt"))
+        self.assert_text_file("combined.json", golden_text("combine", "bundled", "combined.json"))
 
-    def __init__(self, seed):
-        self.random = random.Random(seed)
-        self.live = {name: self.live_plugin() for name in PLUGINS if self.chance(0.7)}
-        self.stripped = {key: value for key, value in (
-            ("plugins", self.leaf() if self.chance(0.02) else self.stripped_plugins()),
-            ("version", self.pick((3, 3.5))), ("notes", {"b": self.leaf(), "type": self.leaf()}),
-            ("Notes", self.leaf())) if self.chance(0.9)}
+    def test_the_goldens_are_what_the_rules_make_of_it(self):
+        outcome = oracle.combine(BASE.read_text("utf-8"), EXAMPLE.read_text("utf-8"))
+        self.assertEqual(0, outcome.status)
+        self.assertEqual(golden_text("combine", "bundled", "summary.txt"), outcome.stdout)
+        self.assertEqual(golden_text("combine", "bundled", "combined.json"), outcome.document)
 
-    def chance(self, probability):
-        return self.random.random() < probability
-
-    def pick(self, choices):
-        return self.random.choice(choices)
-
-    def leaf(self):
-        return self.pick(LEAVES)
-
-    def live_plugin(self):
-        params = {}
-        for name in NAMES:
-            if self.chance(0.5):
-                params[name] = dict(zip(("type", "defaultValue"), self.pick(VALUES)))
-        return {"type": self.pick(CATEGORIES), "params": params}
-
-    def stripped_plugins(self):
-        plugins = {}
-        for name in (*PLUGINS, "New", "new", "a_"):
-            if self.chance(0.5):
-                plugins[name] = self.stripped_plugin(name in self.live)
-        return plugins
-
-    def stripped_plugin(self, is_live):
-        if self.chance(0.1):
-            return None
-        if self.chance(0.004):
-            return self.leaf()
-        plugin = {"type": self.pick(CATEGORIES), "params": self.stripped_params(is_live),
-                  "userData": self.user_data(), "note": {"type": self.leaf()}}
-        return {key: value for key, value in plugin.items() if self.chance(0.7)}
-
-    def stripped_params(self, is_live):
-        # In a plugin that is added, null stays and then is no parameter.
-        null = 0.1 if is_live else 0.004
-        params = {}
-        for name in ADDED_NAMES:
-            if self.chance(0.4):
-                params[name] = None if self.chance(null) else self.entry()
-        return params
-
-    def entry(self):
-        kind, default = self.pick(VALUES)
-        entry = {"type": kind, "defaultValue": default, "handler": self.pick(HANDLERS),
-                 "scaling": {"unit": 1, "type": self.leaf()}, "gpu": self.leaf(),
-                 "listType": self.pick(("float", "color", "string", "double", "list"))}
-        kept = {key: value for key, value in entry.items() if self.chance(0.5)}
-        if self.chance(0.003):
-            kept[self.pick(("type", "listType", "handler"))] = self.leaf()
-        return kept
-
-    def user_data(self):
-        names = {name + suffix for name in (*NAMES, "q") if self.chance(0.5)
-                 for suffix in SUFFIXES if self.chance(0.8)}
-        if self.chance(0.7):
-            names.add("texture_multiplier_mode")
-        if self.chance(0.2):
-            names.add(self.pick(NAMES) + self.pick(OTHER_SUFFIXES))
-        if self.chance(0.95):
-            names -= set(ADDED_NAMES)
-        entries = [self.entry() for _ in names]
-        return dict(zip(sorted(names), entries))
+    def test_shows_what_hosts_do(self):
+        stripped = json.loads(EXAMPLE.read_bytes())
+        plugins = [plugin for plugin in stripped["plugins"].values() if plugin]
+        self.assertGreaterEqual(len(plugins), 25)
+        handlers = {parameter.get("handler") for plugin in plugins
+                    for parameter in plugin["params"].values() if parameter}
+        self.assertLessEqual({"ColorTexFrameHandler", "FloatTexFrameHandler", "DuplicateHandler",
+                              "FileBrowserHandler"}, handlers)
+        self.assertIsInstance(stripped["version"], int)
 
 
 class RandomDocuments(CommandTest):
     def run_seed(self, seed):
         documents = Documents(seed)
-        stripped_text = json.dumps(documents.stripped, ensure_ascii=seed % 2 == 0,
-                                   indent=2 if seed % 3 == 0 else None)
+        stripped = json.dumps(documents.stripped, ensure_ascii=seed % 2 == 0,
+                              indent=2 if seed % 3 == 0 else None)
         base = json.dumps({"plugins": documents.live})
-        self.write("stripped.json", stripped_text)
-        expected = oracle.combine(base, stripped_text)
-        self.assert_run(["combine", "-i", "stripped.json", "-o", "combined.json"],
+        self.write("stripped.json", stripped)
+        expected = oracle.combine(base, stripped)
+        self.assert_run(ARGUMENTS, stdout=expected.stdout, stderr=expected.stderr,
                         status=ABORTED if expected.status == oracle.ABORTED else expected.status,
-                        stdout=expected.stdout, stderr=expected.stderr,
                         catalogue=self.write("catalogue.json", base))
         self.assert_text_file("combined.json", expected.document)
         return expected
 
     def test_every_outcome_is_the_oracles(self):
         statuses = []
-        entries = 0
+        printed_lines = 0
         for seed in SEEDS:
             with self.subTest(seed=seed):
                 outcome = self.run_seed(seed)
                 statuses.append(outcome.status)
-                entries += outcome.stdout.count("\n")
+                printed_lines += outcome.stdout.count("\n")
         # The documents are worth the while: most runs end well, and all ends come up.
         self.assertGreater(statuses.count(0), len(SEEDS) / 2)
         self.assertEqual({0, oracle.BROKEN_METADATA, oracle.ABORTED}, set(statuses))
-        self.assertGreater(entries, 20 * len(SEEDS))
+        self.assertGreater(printed_lines, 20 * len(SEEDS))
 
 
 if __name__ == "__main__":

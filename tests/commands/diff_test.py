@@ -1,8 +1,14 @@
 """The command diff: its report, and the ends of a run that can't compare."""
 
+import json
+import sys
 import unittest
 
-from harness import FAILURE, WINDOWS, CommandTest
+from harness import FAILURE, GOLDEN, LAUNCHER, ROOT, WINDOWS, CommandTest, golden_text
+
+sys.path.insert(0, str(ROOT / "tests" / "oracle"))
+import diff as oracle  # noqa: E402
+from random_stripped import Documents  # noqa: E402
 
 LEFT_NOT_OPENED = "Could not open left file"
 RIGHT_NOT_OPENED = "Could not open right file"
@@ -62,6 +68,39 @@ class Report(CommandTest):
         left = '{"a":' * 1000 + "1" + "}" * 1000
         right = '{"a":' * 1000 + "2" + "}" * 1000
         self.assert_report(left, right, ":a" * 1000 + " different values are 1 and 2\n")
+
+
+class Oracle(CommandTest):
+    """Comparisons with the independent counterpart in tests/oracle."""
+
+    BASE = GOLDEN / "dump" / "bundled" / "base.json"
+    COMBINED = GOLDEN / "combine" / "bundled" / "combined.json"
+
+    def test_the_example_is_reported_as_the_rules_say(self):
+        self.write("left.json", self.BASE.read_bytes())
+        self.write("right.json", self.COMBINED.read_bytes())
+        self.assert_run(ARGUMENTS)
+        self.assert_text_file("diff.txt", golden_text("diff", "bundled", "diff.txt"))
+
+    def test_the_golden_is_what_the_rules_make_of_it(self):
+        self.assertEqual(golden_text("diff", "bundled", "diff.txt"),
+                         oracle.diff(self.BASE.read_text("utf-8"),
+                                     self.COMBINED.read_text("utf-8")))
+
+    def test_random_documents(self):
+        reported_lines = 0
+        for seed in range(20 if LAUNCHER else 100):
+            with self.subTest(seed=seed):
+                documents = Documents(seed)
+                left = json.dumps({"plugins": documents.live, "notes": {"b": 1}, "a": [0, True]})
+                right = json.dumps({"a": [-0.0, 1], **documents.stripped})
+                self.write("left.json", left)
+                self.write("right.json", right)
+                expected = oracle.diff(left, right)
+                self.assert_run(ARGUMENTS)
+                self.assert_text_file("diff.txt", expected)
+                reported_lines += expected.count("\n")
+        self.assertGreater(reported_lines, 1000)
 
 
 class Failure(CommandTest):
