@@ -14,8 +14,8 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 SCHEMAS = ROOT / "schemas"
 KINDS = ("base", "stripped", "combined")
 
-# Documents among the goldens that are wrong on purpose, with the places that the schema refuses.
-REFUSED_GOLDENS = {}
+# Kept documents that are wrong on purpose, with the places that the schema refuses.
+REFUSED = {}
 
 
 def read(path):
@@ -32,10 +32,11 @@ def refused_places(kind, document):
     return sorted({error.json_path for error in errors})
 
 
-def goldens():
-    """The documents among the goldens: (path below the root, kind). A file's name begins with its
-    kind; what diff compares is any JSON."""
-    for path in sorted((ROOT / "tests" / "golden").rglob("*.json")):
+def kept_documents():
+    """The documents among the goldens and the examples: (path below the root, kind). A file's name
+    begins with its kind; what diff compares is any JSON."""
+    folders = (ROOT / "tests" / "golden", ROOT / "examples")
+    for path in sorted(path for folder in folders for path in folder.rglob("*.json")):
         name = path.relative_to(ROOT).as_posix()
         kinds = [kind for kind in KINDS if path.name.startswith(kind)]
         if kinds and "/golden/diff/" not in name:
@@ -81,15 +82,15 @@ class SchemasTest(unittest.TestCase):
                 document = value if path == "" else changed(MINIMAL[kind], path, value)
                 self.assertEqual([place], refused_places(kind, document))
 
-    def test_they_take_every_golden_but_those_wrong_on_purpose(self):
+    def test_they_take_every_kept_document_but_those_wrong_on_purpose(self):
         found = {}
-        for name, kind in goldens():
+        for name, kind in kept_documents():
             if places := refused_places(kind, read(ROOT / name)):
                 found[name] = places
-        self.assertEqual(REFUSED_GOLDENS, found)
+        self.assertEqual(REFUSED, found)
 
-    def test_there_are_goldens(self):
-        self.assertTrue(list(goldens()))
+    def test_there_are_documents_of_every_kind(self):
+        self.assertEqual(set(KINDS), {kind for _, kind in kept_documents()})
 
     def test_they_describe_every_key(self):
         for kind in KINDS:
