@@ -22,9 +22,9 @@ void combine(const char* strippedPath, const char* outputPath) {
     const File output = openForWriting(outputPath);
     requireOrExit(output != nullptr, "Failed to open the output");
 
-    json::Value stripped = readStrippedDocument(std::move(strippedFile), strippedPath);
+    json::Value& stripped = readStrippedDocument(std::move(strippedFile), strippedPath);
     const std::unique_ptr<Renderer> renderer = createRendererOrExit();
-    json::Value live = readLiveDocument(*renderer);
+    json::Value& live = readLiveDocument(*renderer);
     json::Object& strippedObject = strippedObjectOrExit(stripped);
     json::Object& document = liveObjectOrExit(live);
 

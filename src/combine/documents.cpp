@@ -11,19 +11,19 @@
 
 namespace metagen {
 
-json::Value readStrippedDocument(File file, const char* path) {
+json::Value& readStrippedDocument(File file, const char* path) {
     return json::parseFileOrExit(std::move(file), "Could not open the file - " + std::string(path),
                                  "the given json file has errors inside");
 }
 
-json::Value readLiveDocument(const Renderer& renderer) {
+json::Value& readLiveDocument(const Renderer& renderer) {
     return parseLiveDocument(baseDocument(buildLiveMetadata(renderer)));
 }
 
-json::Value parseLiveDocument(std::string_view text) {
+json::Value& parseLiveDocument(std::string_view text) {
     std::optional<json::Value> document = json::parse(text);
     requireOrExit(document.has_value(), "error in the dumped json");
-    return std::move(*document);
+    return json::keepToProcessEnd(std::move(*document));
 }
 
 json::Object& strippedObjectOrExit(json::Value& stripped) {

@@ -1,5 +1,5 @@
 // The documents that `combine` begins with: the stripped one from its file and the live one, which
-// is the base document of the installed SDK, made in memory.
+// is the base document of the installed SDK, made in memory. Both stay to the end of the process.
 #pragma once
 
 #include <string_view>
@@ -12,13 +12,13 @@ namespace metagen {
 
 /// Parses the stripped document and closes its file; the path is for the message. Like the others
 /// here it ends the process with status 1 and a message on standard error when that fails.
-json::Value readStrippedDocument(File file, const char* path);
+json::Value& readStrippedDocument(File file, const char* path);
 
 /// Everything that the renderer knows, as the base document would have it.
-json::Value readLiveDocument(const Renderer& renderer);
+json::Value& readLiveDocument(const Renderer& renderer);
 
 /// Parses the text of the live document. A name that needs escapes makes it unreadable.
-json::Value parseLiveDocument(std::string_view text);
+json::Value& parseLiveDocument(std::string_view text);
 
 /// The stripped document's members, then the live one's, must be there to be merged.
 json::Object& strippedObjectOrExit(json::Value& stripped);

@@ -14,11 +14,7 @@ namespace {
 
 constexpr const char* leftNotOpened = "Could not open left file";
 constexpr const char* rightNotOpened = "Could not open right file";
-
-const json::Object& objectOrExit(const json::Value& document) {
-    requireOrExit(document.is<json::Object>(), "JSON is not an object");
-    return json::asObject(document);
-}
+constexpr const char* noObject = "JSON is not an object";
 
 }  // namespace
 
@@ -31,12 +27,12 @@ void diff(const char* leftPath, const char* rightPath, const char* outputPath) {
     requireOrExit(output != nullptr, "Could not open output file");
 
     // The two small initials are deliberate: scripts look for these messages.
-    const json::Value left = json::parseFileOrExit(std::move(leftFile), leftNotOpened,
-                                                   "the left given json has errors inside");
-    const json::Value right = json::parseFileOrExit(std::move(rightFile), rightNotOpened,
-                                                    "the right given json has errors inside");
-    const json::Object& leftObject = objectOrExit(left);
-    const json::Object& rightObject = objectOrExit(right);
+    const json::Value& left = json::parseFileOrExit(std::move(leftFile), leftNotOpened,
+                                                    "the left given json has errors inside");
+    const json::Value& right = json::parseFileOrExit(std::move(rightFile), rightNotOpened,
+                                                     "the right given json has errors inside");
+    const json::Object& leftObject = json::objectOrExit(left, noObject);
+    const json::Object& rightObject = json::objectOrExit(right, noObject);
 
     std::string report;
     diffObjects(leftObject, rightObject, report, "");

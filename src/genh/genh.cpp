@@ -1,7 +1,6 @@
 #include "genh/genh.h"
 
 #include <ios>
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -9,6 +8,7 @@
 #include "model/model_reader.h"
 #include "model/obstream.h"
 #include "support/json.h"
+#include "support/json_file.h"
 #include "support/number_text.h"
 #include "support/numeric.h"
 #include "support/process_end.h"
@@ -18,17 +18,7 @@ namespace metagen {
 
 namespace {
 
-json::Value parseOrExit(File input) {
-    const std::optional<std::string> text = readAll(input.get());
-    std::optional<json::Value> document = text ? json::parse(*text) : std::nullopt;
-    requireOrExit(document.has_value(), "The given json file has errors inside");
-    return std::move(*document);
-}
-
-const json::Object& objectOrExit(const json::Value& value) {
-    requireOrExit(value.is<json::Object>(), "JSON is not an object");
-    return json::asObject(value);
-}
+constexpr const char* noObject = "JSON is not an object";
 
 double versionOrExit(const json::Object& document) {
     const json::Value& version = json::at(document, "version");
@@ -55,9 +45,11 @@ void genh(const char* inputPath, const char* outputBase) {
     BinaryFile table(std::string(outputBase) + ".bin", std::ios::binary);
     requireOrExit(table.is_open(), "Could not open the BIN output file");
 
-    const json::Value value = parseOrExit(std::move(input));
-    const json::Object& document = objectOrExit(value);
-    const json::Object& plugins = objectOrExit(json::at(document, "plugins"));
+    const json::Value& value = json::parseFileOrExit(
+        std::move(input), "Could not open the file - " + std::string(inputPath),
+        "The given json file has errors inside");
+    const json::Object& document = json::objectOrExit(value, noObject);
+    const json::Object& plugins = json::objectOrExit(json::at(document, "plugins"), noObject);
     const double version = versionOrExit(document);
 
     const CombinedModel model = readCombinedModel(plugins, "handler");

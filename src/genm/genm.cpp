@@ -34,10 +34,9 @@ struct Tables {
 
 const json::Object& pluginsOrExit(const json::Value& document) {
     constexpr const char* message = "JSON is not an object";
-    requireOrExit(document.is<json::Object>(), message);
-    const json::Value* plugins = json::find(json::asObject(document), "plugins");
-    requireOrExit(plugins != nullptr && plugins->is<json::Object>(), message);
-    return json::asObject(*plugins);
+    const json::Value* plugins = json::find(json::objectOrExit(document, message), "plugins");
+    requireOrExit(plugins != nullptr, message);
+    return json::objectOrExit(*plugins, message);
 }
 
 double versionOrExit(const json::Value& document) {
@@ -96,8 +95,8 @@ void genm(const char* inputPath, const char* outputBase) {
     BinaryFile binFile(base + ".bin", std::ios::binary);
     requireOrExit(binFile.is_open(), "Could not open the BIN output file");
 
-    const json::Value document = json::parseFileOrExit(std::move(input), inputNotOpened,
-                                                       "the given json file has errors inside");
+    const json::Value& document = json::parseFileOrExit(std::move(input), inputNotOpened,
+                                                        "the given json file has errors inside");
     const json::Object& plugins = pluginsOrExit(document);
     const double version = versionOrExit(document);
     const CombinedModel model = readCombinedModel(plugins, "meta");

@@ -1,7 +1,9 @@
 #include "support/json.h"
 
 #include <cmath>
+#include <deque>
 #include <iterator>
+#include <utility>
 
 #include "support/json_input.h"
 #include "support/standard_errors.h"
@@ -72,6 +74,11 @@ std::optional<Value> parse(std::string_view text, int& errorLine) {
         return std::nullopt;
     }
     return value;
+}
+
+Value& keepToProcessEnd(Value document) {
+    static auto& kept = *new std::deque<Value>;  // reachable, so that leak checkers see no leak
+    return kept.emplace_back(std::move(document));
 }
 
 const Value* find(const Object& object, const std::string& key) {

@@ -31,6 +31,10 @@ std::optional<Value> parse(std::string_view text);
 /// The same; of a refused text, also the line of the error, counting from 1.
 std::optional<Value> parse(std::string_view text, int& errorLine);
 
+/// Gives a document a place of its own to the end of the process, and never takes it apart: freeing
+/// a large tree node by node would cost a good part of a run that is about to end anyway.
+Value& keepToProcessEnd(Value document);
+
 /// The member's value, or null when the object lacks it. The pointer lives as long as the object.
 const Value* find(const Object& object, const std::string& key);
 

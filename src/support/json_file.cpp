@@ -7,13 +7,18 @@
 
 namespace metagen::json {
 
-Value parseFileOrExit(File file, const std::string& unreadable, const std::string& malformed) {
+Value& parseFileOrExit(File file, const std::string& unreadable, const std::string& malformed) {
     const std::optional<std::string> text = readAll(file.get());
     requireOrExit(text.has_value(), "%s", unreadable.c_str());
     file.reset();
     std::optional<Value> document = parse(*text);
     requireOrExit(document.has_value(), "%s", malformed.c_str());
-    return std::move(*document);
+    return keepToProcessEnd(std::move(*document));
+}
+
+const Object& objectOrExit(const Value& value, const char* message) {
+    requireOrExit(value.is<Object>(), "%s", message);
+    return asObject(value);
 }
 
 }  // namespace metagen::json
