@@ -30,8 +30,10 @@ void mergeUserData(NamedEntries<ParamEntry>& params, std::size_t paramCount) {
     const auto middle = params.begin() + static_cast<std::ptrdiff_t>(paramCount);
     std::inplace_merge(params.begin(), middle, params.end(),
                        [](const auto& left, const auto& right) { return left.name < right.name; });
-    const auto repeated = std::ranges::unique(params, {}, &Named<ParamEntry>::name);
-    params.erase(repeated.begin(), repeated.end());
+    const auto repeated =
+        std::unique(params.begin(), params.end(),
+                    [](const auto& left, const auto& right) { return left.name == right.name; });
+    params.erase(repeated, params.end());
 }
 
 PluginEntry readForMeta(const json::Object& plugin) {

@@ -23,7 +23,7 @@ PluginEntry readPluginEntry(const json::Value& plugin, std::string_view mode);
 /// Reads a parameter or user data object for "meta". The origin flag is 0 or
 /// param_flag::FromUserData. A type outside the vocabulary prints "Type: ", the type and
 /// " converts to an error" on standard output and ends the process with status 1.
-ParamEntry readParamEntry(const json::Object& entry, std::uint32_t originFlag);
+ParamEntry readParamEntry(const json::Object& object, std::uint32_t originFlag);
 
 /// Reads a parameter for "handler", with the user data of its plugin. The entry is to be kept
 /// only when its handlerState is 1; it then has a kind of handler_kind and, but for a duplicate,
