@@ -57,7 +57,7 @@ inline constexpr std::int32_t unspecified = 10000;
 }  // namespace kind
 
 /// Floats that one value of the kind takes: of a single vector, colour, acolor, matrix or
-/// transform, or of one element of a list of such. 0 for every other kind.
+/// transform, or of one element of a list of such; 1 for every other kind.
 constexpr std::size_t floatsPerValue(std::int32_t tag) {
     switch (tag) {
         case kind::vector:
@@ -68,8 +68,7 @@ constexpr std::size_t floatsPerValue(std::int32_t tag) {
         case kind::matrix: return 9;
         case kind::transform:
         case kind::transformList: return 12;
-        case kind::floatList: return 1;
-        default: return 0;
+        default: return 1;
     }
 }
 

@@ -7,7 +7,6 @@
 
 using metagen::replay::AnswerSource;
 using metagen::replay::EntryPoint;
-using metagen::replay::Library;
 using metagen::replay::library;
 using metagen::replay::PluginInstance;
 using metagen::replay::Subject;
