@@ -71,6 +71,9 @@ class Goldens(GenhTest):
     def test_tiny(self):
         self.assert_golden("tiny", GOLDEN / "genh" / "tiny" / "combined.json")
 
+    def test_bundled(self):
+        self.assert_golden("bundled", GOLDEN / "combine" / "bundled" / "combined.json")
+
 
 class Outputs(GenhTest):
     def test_blocks_and_records(self):
