@@ -118,6 +118,31 @@ class OptionPairs(CommandTest):
                 self.assert_no_output_named("dump", name, "out.json")
 
 
+class Dispatch(CommandTest):
+    """Each command gets the files of its own options; this shows in what it can't open."""
+
+    def assert_fails(self, message, *arguments):
+        self.assert_run(arguments, status=FAILURE, stderr=message)
+
+    def test_combine_opens_its_input(self):
+        self.assert_fails("Could not open the file - in.json",
+                          "combine", "-x", "y", "-i", "in.json", "-o", "out.json")
+
+    def test_diff_opens_left_then_right_then_output(self):
+        arguments = ("diff", "-l", "l.json", "-r", "r.json", "-o", "missing/d.txt")
+        self.assert_fails("Could not open left file", *arguments)
+        self.write("l.json", "{}")
+        self.assert_fails("Could not open right file", *arguments)
+        self.write("r.json", "{}")
+        self.assert_fails("Could not open output file", *arguments)
+
+    def test_genh_opens_its_input(self):
+        self.assert_fails("Could not open the file - in.json", "genh", "-i", "in.json", "-o", "code")
+
+    def test_genm_opens_its_input(self):
+        self.assert_fails("Could not open input file", "genm", "-i", "in.json", "-o", "code")
+
+
 class CommandWords(CommandTest):
     def test_case_does_not_matter(self):
         for word in ("dump", "DuMp", "DUMP", "Dump"):
