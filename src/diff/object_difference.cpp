@@ -1,6 +1,7 @@
 #include "diff/object_difference.h"
 
 #include <string_view>
+#include <utility>
 
 namespace metagen {
 
@@ -10,7 +11,8 @@ using Member = json::Object::value_type;
 
 class ObjectDifference {
 public:
-    ObjectDifference(std::string& report, const std::string& start) : out(report), path(start) {}
+    ObjectDifference(std::string& report, std::string start)
+        : out(report), path(std::move(start)) {}
 
     /// Walks both objects side by side, which have their members in the same order.
     void compare(const json::Object& left, const json::Object& right) {

@@ -30,9 +30,9 @@ struct ScaleCondition {
 
 /// The bits of ParamEntry::flags. Hosts compile the numbers in.
 namespace param_flag {
-inline constexpr std::uint32_t FromUserData = 1;  ///< read from "userData", not from "params"
-inline constexpr std::uint32_t FileBrowser = 2;   ///< served by a file browser
-inline constexpr std::uint32_t LoadModeOne = 4;   ///< the file browser's load mode is "1"
+inline constexpr std::uint32_t fromUserData = 1;  ///< read from "userData", not from "params"
+inline constexpr std::uint32_t fileBrowser = 2;   ///< served by a file browser
+inline constexpr std::uint32_t loadModeOne = 4;   ///< the file browser's load mode is "1"
 }  // namespace param_flag
 
 struct ParamEntry {

@@ -40,7 +40,7 @@ PluginEntry readForMeta(const json::Object& plugin) {
     PluginEntry entry;
     readParams(objectOrNone(plugin, "params"), 0, entry.params);
     const std::size_t paramCount = entry.params.size();
-    readParams(objectOrNone(plugin, "userData"), param_flag::FromUserData, entry.params);
+    readParams(objectOrNone(plugin, "userData"), param_flag::fromUserData, entry.params);
     mergeUserData(entry.params, paramCount);
     const json::Value* type = json::find(plugin, "type");
     if (type != nullptr && type->is<std::string>()) entry.category = &json::asString(*type);

@@ -21,7 +21,7 @@ CombinedModel readCombinedModel(const json::Object& plugins, std::string_view mo
 PluginEntry readPluginEntry(const json::Value& plugin, std::string_view mode);
 
 /// Reads a parameter or user data object for "meta". The origin flag is 0 or
-/// param_flag::FromUserData. A type outside the vocabulary prints "Type: ", the type and
+/// param_flag::fromUserData. A type outside the vocabulary prints "Type: ", the type and
 /// " converts to an error" on standard output and ends the process with status 1.
 ParamEntry readParamEntry(const json::Object& object, std::uint32_t originFlag);
 

@@ -26,11 +26,11 @@ void readFileBrowser(const json::Object& object, ParamEntry& entry) {
     if (handler == nullptr) return;
     const json::Value* info = json::find(object, "handlerinfo");
     if (info == nullptr || json::asString(*handler) != "FileBrowserHandler") return;
-    entry.flags |= param_flag::FileBrowser;
+    entry.flags |= param_flag::fileBrowser;
     entry.fileMode = 1;
     const json::Value* loadMode = json::find(json::asObject(*info), "loadMode");
     if (loadMode == nullptr || json::asString(*loadMode) != "1") return;
-    entry.flags |= param_flag::LoadModeOne;
+    entry.flags |= param_flag::loadModeOne;
     entry.fileMode = 2;
 }
 

@@ -31,7 +31,7 @@ TEST(ReadParamEntry, StartsFromTheNeutralValues) {
 }
 
 TEST(ReadParamEntry, KeepsTheOriginFlag) {
-    EXPECT_EQ(read(R"({"type":"float"})", param_flag::FromUserData),
+    EXPECT_EQ(read(R"({"type":"float"})", param_flag::fromUserData),
               "state -1, flags 1, file -1, list 0, type float, default none, scale 0 1");
 }
 
