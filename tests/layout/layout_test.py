@@ -6,8 +6,9 @@ import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 # The folders whose sources are held to the rules, each with the prefix of its files' paths: an
-# include is written from src, or from the root for the replay SDK.
-SOURCE_FOLDERS = {ROOT / "src": "", ROOT / "replay_sdk": "replay_sdk/"}
+# include is written from src, or from the root for what stands beside it.
+SOURCE_FOLDERS = {ROOT / "src": "", ROOT / "replay_sdk": "replay_sdk/",
+                  ROOT / "benchmarks": "benchmarks/"}
 
 # The folders that each folder may include from, besides itself.
 ALLOWED = {
@@ -22,6 +23,7 @@ ALLOWED = {
     "cli": {"combine", "diff", "genh", "genm", "metadata", "sdk", "support"},
     "main.cpp": {"cli", "support"},
     "replay_sdk": {"sdk", "support"},
+    "benchmarks": {"genm", "metadata", "replay_sdk", "sdk", "support"},
 }
 
 PLATFORM_HEADERS = {

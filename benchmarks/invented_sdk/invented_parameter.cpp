@@ -1,0 +1,239 @@
+#include "benchmarks/invented_sdk/invented_parameter.h"
+
+#include <array>
+
+namespace metagen::invented {
+
+namespace {
+
+namespace kind = replay::kind;
+
+/// Not a kind: the value comes from a user-interface guide with so many floats, or with none.
+constexpr std::int32_t colorGuide = -103;
+constexpr std::int32_t acolorGuide = -104;
+constexpr std::int32_t singleGuide = -101;
+
+/// Not a kind: the text "none", with which the SDK says that a parameter has no default.
+constexpr std::int32_t noDefault = -100;
+
+constexpr std::int32_t single = 0;
+constexpr std::int32_t list = 1;
+
+/// How many of a thousand parameters are of this type, and with what kind of default.
+struct MixEntry {
+    std::size_t share;
+    std::int32_t typeCode;
+    std::int32_t isList;
+    std::int32_t kind;
+    std::int32_t elementKind;
+};
+
+constexpr std::array<MixEntry, 45> mix = {{
+    {188, 1, single, kind::single, 0},
+    {20, 1, single, singleGuide, 0},
+    {8, 2, single, kind::real, 0},
+    {141, 0, single, kind::integer, 0},
+    {127, 3, single, kind::boolean, 0},
+    {32, 11, single, kind::acolor, 0},
+    {14, 11, single, kind::color, 0},
+    {14, 11, single, acolorGuide, 0},
+    {8, 11, single, colorGuide, 0},
+    {12, 11, single, kind::plugin, 0},
+    {14, 11, single, noDefault, 0},
+    {64, 9, single, kind::string, 0},
+    {34, 13, single, kind::single, 0},
+    {18, 13, single, singleGuide, 0},
+    {36, 10, single, kind::plugin, 0},
+    {12, 10, single, noDefault, 0},
+    {34, 5, single, kind::color, 0},
+    {18, 4, single, kind::vector, 0},
+    {12, 6, single, kind::acolor, 0},
+    {25, 8, single, kind::transform, 0},
+    {14, 7, single, kind::matrix, 0},
+    {5, 17, single, kind::transform, 0},
+    {4, 15, single, kind::vector, 0},
+    {4, 16, single, kind::matrix, 0},
+    {4, 14, single, kind::integer, 0},
+    {12, 100, list, kind::integerList, 0},
+    {6, 100, list, noDefault, 0},
+    {10, 110, list, kind::pluginList, 0},
+    {8, 110, list, noDefault, 0},
+    {16, 101, list, kind::floatList, 0},
+    {12, 104, list, kind::vectorList, 0},
+    {8, 104, list, noDefault, 0},
+    {12, 109, list, kind::stringList, 0},
+    {8, 12, list, kind::list, kind::string},
+    {3, 12, list, noDefault, 0},
+    {7, 105, list, kind::colorList, 0},
+    {8, 108, list, kind::transformList, 0},
+    {4, 103, list, kind::list, kind::boolean},
+    {5, 106, list, kind::list, kind::acolor},
+    {3, 111, list, kind::list, kind::color},
+    {3, 113, list, kind::floatList, 0},
+    {6, 107, list, kind::list, kind::matrix},
+    {2, 114, list, kind::integerList, 0},
+    {4, 115, list, kind::vectorList, 0},
+    {1, 117, list, kind::transformList, 0},
+}};
+
+constexpr std::array<float, 12> usualFloats = {0, 0, 0, 1, 1, 1, 0.5F, 0.1F, 2, 100, 0.01F, 1e-07F};
+constexpr std::array<std::int32_t, 10> usualIntegers = {0, 0, 1, 1, 2, 3, 8, 16, 100, -1};
+constexpr std::array<float, 4> usualShades = {0, 1, 0.5F, 0.8F};
+
+constexpr std::array<std::string_view, 14> usualTexts = {
+    "",
+    "linear",
+    "diffuse_color",
+    "textures/wood/oak_planks_diffuse_4k.<UDIM>.exr",
+    "velocity",
+    "C:\\projects\\scene\\cache\\frame",
+    "/mnt/assets/caches/smoke_####.vdb",
+    "crypto \"object\" names",
+    "Camera01",
+    "beauty\tpass",
+    "ACEScg",
+    "Grüße aus dem Renderer",
+    "spherical",
+    "if(frame < 100, bump * 0.5, bump * smoothstep(0, 1, distance / falloff))"};
+
+const MixEntry& pick(Dice& dice) {
+    std::size_t left = dice.below(1000);
+    for (const MixEntry& entry : mix) {
+        if (left < entry.share) return entry;
+        left -= entry.share;
+    }
+    return mix.front();
+}
+
+float inventFloat(Dice& dice) {
+    if (dice.inThousand(650)) return dice.oneOf(usualFloats);
+    const auto digits = static_cast<float>(dice.below(2'000'000)) - 400'000.0F;
+    return digits / (dice.inThousand(500) ? 1000.0F : 100'000.0F);
+}
+
+std::int32_t inventInteger(Dice& dice) {
+    if (dice.inThousand(850)) return dice.oneOf(usualIntegers);
+    return static_cast<std::int32_t>(dice.below(100'000));
+}
+
+std::string inventText(Dice& dice) {
+    std::string text(dice.oneOf(usualTexts));
+    if (dice.inThousand(300)) text += std::to_string(dice.below(1000));
+    return text;
+}
+
+replay::PluginReference inventReference(Dice& dice) {
+    // Id 0 names nothing, as the SDK says it of a reference that was never set.
+    return {true, static_cast<std::int64_t>(dice.below(instanceCount + 1)),
+            static_cast<std::int32_t>(dice.below(3))};
+}
+
+/// Whole rows of the identity as often as catalogues have them.
+void appendMatrix(std::vector<float>& floats, Dice& dice) {
+    const bool identity = dice.inThousand(600);
+    for (std::size_t cell = 0; cell < 9; ++cell) {
+        const float usual = cell % 4 == 0 ? 1.0F : 0.0F;
+        floats.push_back(identity ? usual : inventFloat(dice));
+    }
+}
+
+void appendTriple(std::vector<float>& floats, Dice& dice) {
+    const bool grey = dice.inThousand(550);
+    const float shade = dice.oneOf(usualShades);
+    for (int component = 0; component < 3; ++component)
+        floats.push_back(grey ? shade : inventFloat(dice));
+}
+
+/// The floats of one value, or of one element of a list, of the kind.
+void appendFloats(std::vector<float>& floats, std::int32_t tag, Dice& dice) {
+    switch (replay::floatsPerValue(tag)) {
+        case 3: appendTriple(floats, dice); break;
+        case 4:
+            appendTriple(floats, dice);
+            floats.push_back(dice.inThousand(800) ? 1.0F : 0.0F);
+            break;
+        case 9: appendMatrix(floats, dice); break;
+        case 12:
+            appendMatrix(floats, dice);
+            appendTriple(floats, dice);
+            break;
+        default: floats.push_back(inventFloat(dice)); break;
+    }
+}
+
+std::vector<float> inventFloats(std::int32_t tag, std::size_t values, Dice& dice) {
+    std::vector<float> floats;
+    floats.reserve(values * replay::floatsPerValue(tag));
+    for (; values > 0; --values) appendFloats(floats, tag, dice);
+    return floats;
+}
+
+template <typename Element, typename Invent>
+std::vector<Element> inventElements(Dice& dice, const Invent& invent) {
+    std::vector<Element> elements(1 + dice.below(14));
+    for (Element& element : elements) element = invent(dice);
+    return elements;
+}
+
+InventedParameter guided(const MixEntry& entry, Dice& dice) {
+    InventedParameter parameter = {entry.typeCode, false, {}, replay::Guide{}};
+    if (entry.kind == singleGuide) {
+        parameter.guide->single = inventFloat(dice);
+    } else {
+        const std::int32_t tag = entry.kind == acolorGuide ? kind::acolor : kind::color;
+        parameter.guide->floats = inventFloats(tag, 1, dice);
+    }
+    return parameter;
+}
+
+bool isGuide(std::int32_t tag) {
+    return tag == singleGuide || tag == colorGuide || tag == acolorGuide;
+}
+
+}  // namespace
+
+InventedParameter inventParameter(Dice dice) {
+    const MixEntry& entry = pick(dice);
+    if (isGuide(entry.kind)) return guided(entry, dice);
+    InventedParameter parameter = {entry.typeCode, entry.isList == list, {}, std::nullopt};
+    if (entry.kind != noDefault) {
+        parameter.defaultValue = inventValue(entry.kind, entry.elementKind, dice);
+    } else if (!parameter.isList) {
+        parameter.defaultValue = {kind::string, std::string("none")};
+    }
+    return parameter;
+}
+
+replay::DefaultValue inventValue(std::int32_t tag, std::int32_t elementTag, Dice& dice) {
+    switch (tag) {
+        case kind::integer: return {tag, inventInteger(dice)};
+        case kind::single: return {tag, inventFloat(dice)};
+        case kind::real: return {tag, static_cast<double>(inventFloat(dice))};
+        case kind::boolean: return {tag, static_cast<std::uint8_t>(dice.below(2))};
+        case kind::string: return {tag, inventText(dice)};
+        case kind::plugin: return {tag, inventReference(dice)};
+        case kind::integerList: return {tag, inventElements<std::int32_t>(dice, inventInteger)};
+        case kind::stringList: return {tag, inventElements<replay::Text>(dice, inventText)};
+        case kind::pluginList:
+            return {tag, inventElements<replay::PluginReference>(dice, inventReference)};
+        case kind::list:
+            return {tag, inventElements<replay::DefaultValue>(dice, [elementTag](Dice& again) {
+                        return inventValue(elementTag, 0, again);
+                    })};
+        case kind::floatList:
+        case kind::vectorList:
+        case kind::colorList:
+        case kind::transformList: return {tag, inventFloats(tag, 1 + dice.below(14), dice)};
+        default: return {tag, inventFloats(tag, 1, dice)};
+    }
+}
+
+replay::PluginInstance inventInstance(std::int64_t pluginId) {
+    replay::PluginInstance instance;
+    instance.name = "library/shared_texture_" + std::to_string(pluginId);
+    instance.typeId = pluginId;
+    instance.propertyNames = {{1, "out_color"}, {2, "out_intensity"}};
+    return instance;
+}
+
+}  // namespace metagen::invented

@@ -1,0 +1,30 @@
+// What a parameter of an invented class is: its type and its default value, drawn from the mix of
+// types and default texts that the bundled catalogue has.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "benchmarks/invented_sdk/dice.h"
+#include "replay_sdk/answer_source.h"
+
+namespace metagen::invented {
+
+struct InventedParameter {
+    std::int32_t typeCode = 0;
+    bool isList = false;
+    replay::DefaultValue defaultValue;
+    std::optional<replay::Guide> guide;  ///< when there, the default comes from it
+};
+
+InventedParameter inventParameter(Dice dice);
+
+/// A default value with this tag; a generic list has elements with elementTag.
+replay::DefaultValue inventValue(std::int32_t tag, std::int32_t elementTag, Dice& dice);
+
+/// The instances that references name have the ids from 1 to this number.
+inline constexpr std::int64_t instanceCount = 40;
+
+replay::PluginInstance inventInstance(std::int64_t pluginId);
+
+}  // namespace metagen::invented
