@@ -56,8 +56,10 @@ std::vector<HandlerData> findHandlerData(const json::Object& userData) {
         found.push_back({name.substr(0, name.size() - suffix->size()), *suffix});
     }
     std::ranges::stable_sort(found, {}, &HandlerData::parameter);
-    const auto repeated = std::ranges::unique(found, {}, &HandlerData::parameter);
-    found.erase(repeated.begin(), repeated.end());
+    const auto sameParameter = [](const HandlerData& left, const HandlerData& right) {
+        return left.parameter == right.parameter;
+    };
+    found.erase(std::unique(found.begin(), found.end(), sameParameter), found.end());
     return found;
 }
 
