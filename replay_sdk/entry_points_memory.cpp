@@ -36,7 +36,8 @@ const char* getVectorElement(const void* vector, std::uint32_t index) {
     constexpr EntryPoint self = EntryPoint::getVectorElement;
     const TextVector* texts = enter(self, vector);
     if (texts == nullptr) return nullptr;
-    if (index >= texts->size()) library().ledger.noteFinding("index beyond the text vector");
+    if (index >= texts->size())
+        library().ledger.noteFinding("index beyond the text vector in getVectorElement");
     return texts->at(index);
 }
 

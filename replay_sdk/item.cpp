@@ -27,7 +27,7 @@ std::string Item::place() const {
     std::string path = parent->parent == nullptr ? std::string() : parent->place();
     path += '/';
     if (name.data() == nullptr) return path + std::to_string(index);
-    return path.append(name);
+    return path.append(name.substr(0, name.find('\0')));  // the report's text would end there
 }
 
 void Item::fail(const std::string& reason) const { throw CatalogueError(place() + ": " + reason); }
