@@ -95,7 +95,7 @@ void CatalogueReader::readInstances(const Item& instances) {
 std::int64_t CatalogueReader::instanceNamed(std::string_view name) {
     const auto known = ownInstances.find(name);
     if (known != ownInstances.end()) return known->second;
-    while (catalogue->instances.count(nextInstanceId) != 0) ++nextInstanceId;
+    while (catalogue->instances.contains(nextInstanceId)) ++nextInstanceId;
     PluginInstance instance;
     instance.name = name;
     catalogue->instances.emplace(nextInstanceId, std::move(instance));
