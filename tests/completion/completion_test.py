@@ -78,7 +78,8 @@ class CompletionTest(unittest.TestCase):
         self.assertEqual(["-l", "-r", "-o"], self.offered_by_bash("metagen", "diff", ""))
         self.assertEqual(["base.json", "combined.json", "my stripped.json", "sub"],
                          sorted(self.offered_by_bash("metagen", "diff", "-l", "")))
-        self.assertEqual(["sub", "tables"], sorted(self.offered_by_bash("metagen", "genm", "-o", "")))
+        self.assertEqual(["sub", "tables"],
+                         sorted(self.offered_by_bash("metagen", "genm", "-o", "")))
 
     def test_the_words_are_those_that_metagen_knows(self):
         build = pathlib.Path(os.environ.get(
