@@ -1,0 +1,60 @@
+# For host applications: generates metagen's tables as a part of their build.
+#
+#     metagen_generate_tables(TARGET <target> DOCUMENT <combined.json> [SDK_ROOT <folder>])
+#
+# Adds the rules that run genh and genm on the combined document, again whenever the document or
+# metagen changes, and puts the folder with the outputs on the target's include path. The target's
+# property METAGEN_TABLES_FOLDER names that folder. It holds handlers.inl and handlers.bin by genh,
+# meta.inl and meta.bin by genm. The .bin files are the tool's own, byte by byte; so are the .inl
+# files, but where they would not compile: see MetagenTables.cmake.
+#
+# metagen loads the SDK's library in every run. SDK_ROOT is the SDK's root folder, the one with
+# `bin` below; METAGEN_REPLAY_SDK_ROOT, which the package sets, serves where no SDK is installed.
+# Without SDK_ROOT the environment of the build decides.
+#
+# A metagen for another system than the build machine's is run through the program (with its
+# arguments) that METAGEN_LAUNCHER names, by default CMAKE_CROSSCOMPILING_EMULATOR.
+
+function(metagen_generate_tables)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "TARGET;DOCUMENT;SDK_ROOT" "")
+    if(NOT arg_TARGET OR NOT arg_DOCUMENT OR arg_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "metagen_generate_tables takes TARGET <target>, "
+            "DOCUMENT <combined.json> and, optionally, SDK_ROOT <folder>")
+    endif()
+    cmake_path(ABSOLUTE_PATH arg_DOCUMENT)
+    set(environment "")
+    if(arg_SDK_ROOT)
+        cmake_path(ABSOLUTE_PATH arg_SDK_ROOT)
+        # metagen would look at the other variable first.
+        set(environment --unset=QYRA_APPSDK_BIN "QYRA_SDK=${arg_SDK_ROOT}")
+    endif()
+    set(launcher "")
+    if(NOT METAGEN_SYSTEM STREQUAL CMAKE_HOST_SYSTEM_NAME)
+        set(launcher ${CMAKE_CROSSCOMPILING_EMULATOR})
+        if(METAGEN_LAUNCHER)
+            set(launcher ${METAGEN_LAUNCHER})
+        endif()
+    endif()
+
+    set(folder "${CMAKE_CURRENT_BINARY_DIR}/${arg_TARGET}_tables")
+    set(script "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/MetagenTables.cmake")
+    set(commands genh genm)
+    set(tables handlers meta)
+    foreach(command table IN ZIP_LISTS commands tables)
+        # METAGEN_SDK_TARGETS: what a build that makes the SDK's stand-in itself has to make first.
+        add_custom_command(
+            OUTPUT "${folder}/${table}.inl" "${folder}/${table}.bin"
+            BYPRODUCTS "${folder}/${table}.generated.inl"
+            COMMAND "${CMAKE_COMMAND}" -E env ${environment}
+                "${CMAKE_COMMAND}" "-DLAUNCHER=${launcher}" "-DTOOL=$<TARGET_FILE:metagen::metagen>"
+                -DCOMMAND=${command} "-DDOCUMENT=${arg_DOCUMENT}" "-DOUTPUT=${folder}/${table}"
+                -P "${script}"
+            DEPENDS "${arg_DOCUMENT}" "${script}" metagen::metagen
+                "$<TARGET_FILE:metagen::metagen>" ${METAGEN_SDK_TARGETS}
+            COMMENT "Generating ${table}.inl and ${table}.bin for ${arg_TARGET}"
+            VERBATIM)
+        target_sources(${arg_TARGET} PRIVATE "${folder}/${table}.inl" "${folder}/${table}.bin")
+    endforeach()
+    target_include_directories(${arg_TARGET} PRIVATE "${folder}")
+    set_target_properties(${arg_TARGET} PROPERTIES METAGEN_TABLES_FOLDER "${folder}")
+endfunction()

@@ -1,0 +1,40 @@
+# Run as a script by the rules of metagen_generate_tables: has the tool generate one table, and
+# hands it over only when the run did not fail.
+#
+#     cmake -DTOOL=<metagen> -DLAUNCHER=<program or nothing> -DCOMMAND=<genh or genm>
+#           -DDOCUMENT=<combined.json> -DOUTPUT=<path without suffix> -P MetagenTables.cmake
+#
+# Beside <path>.bin and <path>.inl stands <path>.generated.inl, the source text as the tool wrote
+# it. Its format has places that no C++ compiler takes, which <path>.inl completes:
+# - a table of file parameters without entries lacks its opening brace;
+# - so does an array without elements, which becomes a std::array of none;
+# - of the largest integers the array has 2147483648, the nearest float, and no int holds that.
+
+set(generated "${OUTPUT}.generated")
+cmake_path(GET OUTPUT PARENT_PATH folder)
+file(MAKE_DIRECTORY "${folder}")
+
+execute_process(
+    COMMAND ${LAUNCHER} "${TOOL}" ${COMMAND} -i "${DOCUMENT}" -o "${generated}"
+    RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE printed)
+if(printed)
+    message(NOTICE "metagen ${COMMAND}: ${printed}")
+endif()
+if(NOT status EQUAL 0)
+    message(FATAL_ERROR "metagen ${COMMAND} ended with ${status} on ${DOCUMENT}")
+endif()
+
+file(READ "${generated}.inl" source)
+string(REPLACE "\r\n" "\n" source "${source}")
+string(FIND "${source}" "\nMeta m(" arrays_end)
+if(arrays_end GREATER 0)
+    string(SUBSTRING "${source}" 0 ${arrays_end} arrays)
+    string(SUBSTRING "${source}" ${arrays_end} -1 body)
+    string(REGEX REPLACE "constexpr (int|float) ([a-z0-9]+)\\[\\] = };"
+        "constexpr std::array<\\1, 0> \\2 = {};" arrays "${arrays}")
+    string(REGEX REPLACE " 2147483648([,}])" " 2147483647\\1" arrays "${arrays}")
+    string(REPLACE "Params = \n};" "Params = {\n};" body "${body}")
+    set(source "${arrays}${body}")
+endif()
+file(WRITE "${OUTPUT}.inl" "${source}")
+file(RENAME "${generated}.bin" "${OUTPUT}.bin")

@@ -1,0 +1,40 @@
+# The package that `cmake --install` lays down and find_package(metagen) finds: the tool, the replay
+# SDK, and the function for hosts. The build folder serves find_package, too, as metagen_DIR.
+
+include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
+
+set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/metagen")
+set(replay_sdk_folder "${CMAKE_INSTALL_LIBDIR}/metagen/replay_sdk")
+
+install(TARGETS metagen EXPORT metagenTargets RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS replay_sdk LIBRARY DESTINATION "${replay_sdk_folder}/bin")
+install(FILES replay_sdk/catalogue.json DESTINATION "${replay_sdk_folder}/bin")
+install(FILES cmake/MetagenHost.cmake cmake/MetagenTables.cmake DESTINATION "${package_folder}")
+install(FILES LICENSE README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+
+# For another build on this machine as well as for an installed metagen: a package is searched for
+# by its version alone, since metagen makes source text that fits every system.
+install(EXPORT metagenTargets NAMESPACE metagen:: DESTINATION "${package_folder}")
+export(EXPORT metagenTargets NAMESPACE metagen:: FILE "${PROJECT_BINARY_DIR}/metagenTargets.cmake")
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/metagenConfigVersion.cmake"
+    COMPATIBILITY SameMinorVersion ARCH_INDEPENDENT)
+
+set(HOST_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake")
+set(REPLAY_SDK_ROOT "${PROJECT_BINARY_DIR}/sdk")
+configure_package_config_file(cmake/metagenConfig.cmake.in
+    "${PROJECT_BINARY_DIR}/metagenConfig.cmake"
+    INSTALL_DESTINATION "${PROJECT_BINARY_DIR}"
+    INSTALL_PREFIX "${PROJECT_BINARY_DIR}"
+    PATH_VARS HOST_SCRIPTS REPLAY_SDK_ROOT)
+
+set(HOST_SCRIPTS "${package_folder}")
+set(REPLAY_SDK_ROOT "${replay_sdk_folder}")
+configure_package_config_file(cmake/metagenConfig.cmake.in
+    "${PROJECT_BINARY_DIR}/package/metagenConfig.cmake"
+    INSTALL_DESTINATION "${package_folder}"
+    PATH_VARS HOST_SCRIPTS REPLAY_SDK_ROOT)
+install(FILES
+    "${PROJECT_BINARY_DIR}/package/metagenConfig.cmake"
+    "${PROJECT_BINARY_DIR}/metagenConfigVersion.cmake"
+    DESTINATION "${package_folder}")
