@@ -1,0 +1,24 @@
+// Holds the tables that were compiled in against those that were loaded.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "handlers.h"
+#include "meta.h"
+
+namespace host {
+
+/// Each difference is a line. The same content is no difference where source and table hold it
+/// differently:
+/// - the source has floats to six significant digits, and integers of an array to a float's digits;
+/// - the source shares an array between 0 and -0;
+/// - a default that the generator could not read is an empty text in the source, and an array
+///   without numbers in the table;
+/// - a text ends at its first NUL in the source;
+/// - a plugin without category has an empty one in the source, and two double quotes in the table;
+/// - the table has the whole part of the version.
+std::vector<std::string> differences(const HandlerMeta& compiled, const HandlerMeta& loaded);
+std::vector<std::string> differences(const Meta& compiled, const Meta& loaded);
+
+}  // namespace host

@@ -1,0 +1,12 @@
+// The tables that the generated source builds.
+#pragma once
+
+#include "handlers.h"
+#include "meta.h"
+
+namespace host {
+
+HandlerMeta compiledHandlers();
+Meta compiledMeta();
+
+}  // namespace host

@@ -1,0 +1,135 @@
+#include "loaded_tables.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <functional>
+#include <iterator>
+
+#include "comparison.h"
+#include "compiled_tables.h"
+#include "table_reader.h"
+
+namespace host {
+namespace {
+
+std::string fileBytes(const std::string& name) {
+    std::ifstream file(HOST_TABLES "/" + name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+const std::string handlersBytes = fileBytes("handlers.bin");
+const std::string metaBytes = fileBytes("meta.bin");
+
+TEST(LoadedTables, AgreeWithTheCompiledOnes) {
+    EXPECT_EQ(differences(compiledHandlers(), loadHandlers(handlersBytes)),
+              std::vector<std::string>());
+    EXPECT_EQ(differences(compiledMeta(), loadMeta(metaBytes)), std::vector<std::string>());
+}
+
+TEST(LoadedTables, HoldWhatTheDocumentHas) {
+    const HandlerMeta handlers = loadHandlers(handlersBytes);
+    EXPECT_EQ(handlers.version, 2);
+    EXPECT_EQ(handlers.plugins.size(), 1U);
+    EXPECT_EQ(handlers.plugins.at("Unreadable").handlers.size(), 2U);
+    const Meta meta = loadMeta(metaBytes);
+    EXPECT_EQ(meta.version, 2);
+    EXPECT_EQ(meta.plugins.size(), 5U);
+    EXPECT_EQ(meta.plugins.at("Numbers").parameters.size(), 9U);
+    EXPECT_EQ(meta.scalingParams.at("Numbers").at("smallest").conditions.size(), 3U);
+    EXPECT_EQ(std::get<float>(meta.plugins.at("Numbers").parameters.at("digits").defaultValue),
+              0.12345678F);
+}
+
+/// The message with which the bytes are refused.
+template <typename Load>
+std::string refusal(const Load& load, const std::string& bytes) {
+    try {
+        load(bytes);
+    } catch (const BadTable& error) {
+        return error.what();
+    }
+    return "none";
+}
+
+TEST(LoadedTables, AreRefusedWhereverTheyAreCut) {
+    for (std::size_t length = 0; length < handlersBytes.size(); ++length) {
+        EXPECT_NE(refusal(loadHandlers, handlersBytes.substr(0, length)), "none") << length;
+    }
+    for (std::size_t length = 0; length < metaBytes.size(); ++length) {
+        EXPECT_NE(refusal(loadMeta, metaBytes.substr(0, length)), "none") << length;
+    }
+}
+
+TEST(LoadedTables, AreRefusedWithBytesToSpare) {
+    EXPECT_EQ(
+        refusal(loadHandlers, handlersBytes + '\0'),
+        "at byte " + std::to_string(handlersBytes.size()) + ": the table goes on after its end");
+    EXPECT_EQ(refusal(loadMeta, metaBytes + '\0'),
+              "at byte " + std::to_string(metaBytes.size()) + ": the table goes on after its end");
+}
+
+TEST(LoadedTables, AreRefusedUnderAnotherTag) {
+    EXPECT_EQ(refusal(loadHandlers, metaBytes), "at byte 0: the table is no HDLR table");
+    EXPECT_EQ(refusal(loadMeta, handlersBytes), "at byte 0: the table is no META table");
+    EXPECT_EQ(refusal(loadMeta, ""), "at byte 0: the table is no META table");
+}
+
+/// Every change of a byte is refused or shows as a difference, but for a few: those in the last
+/// digits of a float, and those after a text's first NUL.
+template <typename Load, typename Tables>
+void expectChangesNoticed(const Load& load, const std::string& bytes, const Tables& compiled) {
+    std::size_t unnoticed = 0;
+    for (std::size_t place = 0; place < bytes.size(); ++place) {
+        for (const int change : {1, 0x80, 0xFF}) {
+            std::string changed = bytes;
+            changed[place] = static_cast<char>(changed[place] ^ change);
+            try {
+                if (differences(compiled, load(changed)).empty()) ++unnoticed;
+            } catch (const BadTable&) {
+                continue;
+            }
+        }
+    }
+    EXPECT_LT(unnoticed, 3 * bytes.size() / 10);
+}
+
+TEST(LoadedTables, ChangedBytesAreNoticed) {
+    expectChangesNoticed(loadHandlers, handlersBytes, compiledHandlers());
+    expectChangesNoticed(loadMeta, metaBytes, compiledMeta());
+}
+
+std::string u32(std::uint32_t number) {
+    std::string bytes;
+    for (unsigned shift = 0; shift < 32; shift += 8) {
+        bytes += static_cast<char>(static_cast<unsigned char>(number >> shift));
+    }
+    return bytes;
+}
+
+TEST(LoadedTables, ACountBeyondTheirEndTakesNoMemory) {
+    const std::string head = "HDLR" + u32(1);
+    EXPECT_EQ(refusal(loadHandlers, head + u32(0xFFFFFFFF)),
+              "at byte 12: the table ends too early");
+    EXPECT_EQ(refusal(loadHandlers, head + u32(1) + u32(0xFFFFFFFF) + "ABCD"),
+              "at byte 16: the table ends too early");
+    EXPECT_EQ(
+        refusal(loadHandlers, head + u32(1) + u32(0) + u32(1) + u32(0) + u32(1) + u32(0xFFFFFFFF)),
+        "at byte 32: the table ends too early");
+}
+
+TEST(LoadedTables, UnknownCodesAreRefused) {
+    EXPECT_EQ(refusal(loadHandlers,
+                      "HDLR" + u32(1) + u32(1) + u32(0) + u32(1) + u32(0) + u32(3) + u32(0)),
+              "at byte 28: the table names an unknown handler");
+    EXPECT_EQ(refusal(loadMeta, "META" + u32(1) + u32(1) + u32(0) + u32(0) + u32(1) + u32(0) +
+                                    u32(0) + u32(0) + u32(6) + u32(0)),
+              "at byte 40: the table has an unknown kind of default");
+    EXPECT_EQ(refusal(loadMeta, "META" + u32(1) + u32(0) + u32(0) + u32(0) + u32(1) + u32(0) +
+                                    u32(1) + u32(0) + u32(1) + u32(1) + '\0' + u32(1) + u32(0) +
+                                    u32(1) + u32(521) + u32(0)),
+              "at byte 61: the table has an unknown type of condition value");
+}
+
+}  // namespace
+}  // namespace host
