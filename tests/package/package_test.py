@@ -1,0 +1,115 @@
+"""A project outside the tree finds an installed metagen and builds its tables with it."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "commands"))
+from harness import BINARY, GOLDEN, LAUNCHER, ROOT  # noqa: E402
+
+CMAKE = os.environ.get("CMAKE_COMMAND", "cmake")
+BUILD = os.environ.get("METAGEN_BUILD", ROOT / "build" / "release")
+AGREE = "The compiled-in and the loaded tables agree."
+
+
+def environment():
+    """That of the test, without a place for the SDK but a wrong one: what the project names has to
+    do."""
+    values = {name: value for name, value in os.environ.items()
+              if not name.startswith("QYRA_") and value}
+    return {**values, "QYRA_APPSDK_BIN": "/nowhere"}
+
+
+class Package(unittest.TestCase):
+    """The folders have a blank in their names, as they may have elsewhere."""
+
+    maxDiff = None
+
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = pathlib.Path(tempfile.mkdtemp(prefix="metagen test "))
+        cls.addClassCleanup(shutil.rmtree, cls.folder)
+        cls.prefix = cls.folder / "installed"
+        cls.project = cls.folder / "host"
+        cls.document = cls.folder / "combined.json"
+        cls.build_folder = cls.folder / "build"
+        cls.run_cmake("--install", BUILD, "--prefix", cls.prefix)
+        shutil.copytree(ROOT / "examples" / "host", cls.project)
+        shutil.copy(GOLDEN / "combine" / "bundled" / "combined.json", cls.document)
+        cls.run_cmake("-S", cls.project, "-B", cls.build_folder, "-DCMAKE_BUILD_TYPE=Debug",
+                      f"-Dmetagen_DIR={cls.package_folder()}",
+                      f"-DEXAMPLE_HOST_DOCUMENT={cls.document}")
+
+    @classmethod
+    def run_cmake(cls, *arguments, fails=False):
+        """Runs CMake and gives what it printed."""
+        finished = subprocess.run([CMAKE, *map(str, arguments)], env=environment(), text=True,
+                                  stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                                  stderr=subprocess.STDOUT, timeout=280, check=False)
+        if (finished.returncode != 0) != fails:
+            raise AssertionError(f"{finished.returncode}: {finished.stdout}")
+        return finished.stdout
+
+    @classmethod
+    def package_folder(cls):
+        return next(cls.prefix.glob("lib*/**/cmake/metagen"))
+
+    def build(self, fails=False):
+        return self.run_cmake("--build", self.build_folder, fails=fails)
+
+    def tables(self):
+        return self.build_folder / "example_host_tables"
+
+    def assert_host_agrees(self):
+        host = self.build_folder / ("example_host" + BINARY.suffix)
+        finished = subprocess.run(
+            [*LAUNCHER, str(host), "handlers.bin", "meta.bin"], cwd=self.tables(),
+            env=environment(), capture_output=True, text=True, timeout=120, check=False)
+        self.assertEqual((0, ""), (finished.returncode, finished.stderr), finished.stdout)
+        self.assertEqual(AGREE, finished.stdout.splitlines()[-1])
+
+    def test_what_is_installed(self):
+        files = {path.relative_to(self.prefix).name for path in self.prefix.rglob("*")
+                 if path.is_file()}
+        library = "QyraSDKLibrary.dll" if BINARY.suffix else "libQyraSDKLibrary.so"
+        self.assertLessEqual(
+            {BINARY.name, library, "catalogue.json", "metagenConfig.cmake",
+             "metagenConfigVersion.cmake", "metagenTargets.cmake", "MetagenHost.cmake",
+             "MetagenTables.cmake", "LICENSE"}, files)
+        for path in self.package_folder().glob("*.cmake"):
+            self.assertNotIn(str(ROOT), path.read_text(encoding="utf-8"), path)
+
+    def test_the_build_follows_the_document_and_the_tool(self):
+        self.build()
+        self.assert_host_agrees()
+        self.assertIn("no work to do", self.build())
+
+        text = self.document.read_text(encoding="utf-8")
+        self.document.write_text(text.replace('"version":7', '"version":8'), encoding="utf-8")
+        self.assertIn("Generating meta.inl", self.build())
+        self.assertEqual(b"META\x08\0\0\0", (self.tables() / "meta.bin").read_bytes()[:8])
+        self.assert_host_agrees()
+
+        os.utime(self.prefix / "bin" / BINARY.name)
+        self.assertIn("Generating handlers.inl", self.build())
+        self.assertIn("no work to do", self.build())
+
+    def test_a_document_that_is_refused_fails_the_build(self):
+        self.build()
+        text = self.document.read_text(encoding="utf-8")
+        self.document.write_text(text[:1000], encoding="utf-8")
+        self.addCleanup(self.document.write_text, text, encoding="utf-8")
+        self.assertIn("metagen genm: the given json file has errors inside\n",
+                      self.build(fails=True))
+        self.build(fails=True)  # and not only at first
+        self.document.write_text(text, encoding="utf-8")
+        self.build()
+        self.assert_host_agrees()
+
+
+if __name__ == "__main__":
+    unittest.main()
