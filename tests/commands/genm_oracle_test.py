@@ -12,7 +12,7 @@ import genm as oracle  # noqa: E402
 from random_meta import random_meta  # noqa: E402
 
 # Starting a process through Wine takes long.
-SEEDS = range(25 if LAUNCHER else 200)
+SEEDS = range(50 if LAUNCHER else 200)
 
 
 def run_of(end):

@@ -277,6 +277,9 @@ class Goldens(CommandTest):
     def test_tiny(self):
         self.assert_golden("tiny", GOLDEN / "genm" / "tiny" / "combined.json")
 
+    def test_bundled(self):
+        self.assert_golden("bundled", GOLDEN / "combine" / "bundled" / "combined.json")
+
 
 if __name__ == "__main__":
     unittest.main()
