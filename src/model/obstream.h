@@ -2,7 +2,6 @@
 // number little-endian whatever the machine. Hosts load the files byte by byte as they stand here.
 #pragma once
 
-#include <array>
 #include <bit>
 #include <cstdint>
 #include <fstream>
@@ -23,9 +22,7 @@ public:
     void writeTag(const char (&tag)[5]) { this->write(tag, 4); }
 
     void writeU32(std::uint32_t number) {
-        const std::array<char, 4> bytes = {byteOf(number, 0), byteOf(number, 1), byteOf(number, 2),
-                                           byteOf(number, 3)};
-        this->write(bytes.data(), bytes.size());
+        for (unsigned index = 0; index < 4; ++index) writeByte((number >> (8U * index)) & 0xFFU);
     }
 
     void writeI32(std::int32_t number) { writeU32(static_cast<std::uint32_t>(number)); }
@@ -39,10 +36,12 @@ public:
     /// The length in bytes as a u32, then the bytes; no NUL, no conversion.
     void writeText(std::string_view text) {
         writeCount(text.size());
-        this->write(text.data(), static_cast<std::streamsize>(text.size()));
+        this->rdbuf()->sputn(text.data(), static_cast<std::streamsize>(text.size()));
     }
 
-    void writeByte(std::uint8_t byte) { this->put(static_cast<char>(byte)); }
+    /// Straight into the stream's buffer: most values are four bytes, for which a formatted or
+    /// unformatted write of the stream's own costs more than the rest of their writing.
+    void writeByte(std::uint32_t byte) { this->rdbuf()->sputc(static_cast<char>(byte)); }
 
     /// The elements back to back, without a count.
     void writeBytes(std::span<const float> numbers) {
@@ -50,11 +49,6 @@ public:
     }
     void writeBytes(std::span<const std::int32_t> numbers) {
         for (const std::int32_t number : numbers) writeI32(number);
-    }
-
-private:
-    static char byteOf(std::uint32_t number, unsigned index) {
-        return static_cast<char>((number >> (8U * index)) & 0xFFU);
     }
 };
 
