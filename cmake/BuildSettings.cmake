@@ -27,6 +27,11 @@ if(METAGEN_SANITIZE)
     add_link_options(-fsanitize=${sanitizers} -fno-sanitize-recover=all)
 endif()
 
+option(METAGEN_FUZZ "Build the fuzz targets as fuzzers, which takes clang" OFF)
+if(METAGEN_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(WIN32)
     add_compile_definitions(NOMINMAX WIN32_LEAN_AND_MEAN)
 endif()

@@ -1,0 +1,71 @@
+// The readers of default value texts, every one on the same text.
+#include <limits>
+#include <string>
+
+#include "fuzz_target.h"
+#include "metadata/default_value_parser.h"
+#include "metadata/list_tokenizer.h"
+#include "support/number_prefix.h"
+#include "support/standard_errors.h"
+
+using namespace metagen;
+
+namespace {
+
+/// Elements lie within the text, one after the other, and there are at most as many as bytes.
+void walkElements(std::string_view text) {
+    ListTokenizer tokenizer(text);
+    const char* last = text.data();
+    std::size_t count = 0;
+    while (const auto element = tokenizer.next()) {
+        fuzz::require(element->data() >= last, "elements ascend");
+        fuzz::require(element->data() + element->size() <= text.data() + text.size(),
+                      "elements lie in the text");
+        last = element->data();
+        fuzz::require(++count <= text.size(), "elements end");
+    }
+}
+
+template <typename Element>
+void readList(bool (*reader)(std::string_view, std::vector<Element>&), std::string_view text,
+              bool failsOnlyOutsideLists) {
+    std::vector<Element> elements;
+    const bool read = reader(text, elements);
+    fuzz::require(isListText(text) || (!read && elements.empty()), "only lists have elements");
+    if (failsOnlyOutsideLists) fuzz::require(read == isListText(text), "numbers never fail");
+}
+
+void readSingles(std::string_view text) {
+    Vector3 vector = {};
+    AColor color = {};
+    Matrix matrix = {};
+    Transform transform = {};
+    const bool three = parseVector3(text, vector);
+    const bool four = parseAColor(text, color);
+    fuzz::require(three || !four, "whoever has four fields has three");
+    fuzz::require(parseMatrix(text, matrix) || !parseTransform(text, transform),
+                  "a transform has the fields of a matrix");
+    static_cast<void>(readIntegerPrefix(text));
+    static_cast<void>(readDoublePrefix(text));
+}
+
+void readLists(std::string_view text) {
+    readList(parseIntList, text, true);
+    readList(parseFloatList, text, true);
+    readList(parseVector3List, text, false);
+    readList(parseAColorList, text, false);
+    readList(parseMatrixList, text, false);
+    readList(parseTransformList, text, false);
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string copy(fuzz::textOf(data, size));  // no byte more, for the address sanitizer
+    walkElements(copy);
+    readSingles(copy);
+    readLists(copy);
+    fuzz::runToItsEnd([](std::string_view text) { parseInteger(std::string(text)); }, copy);
+    fuzz::runToItsEnd([](std::string_view text) { parseFloat(std::string(text)); }, copy);
+    return 0;
+}
