@@ -72,7 +72,6 @@ PluginEntry readPluginEntry(const json::Value& plugin, std::string_view mode) {
 CombinedModel readCombinedModel(const json::Object& plugins, std::string_view mode) {
     CombinedModel model;
     const bool everyPlugin = mode == "meta";
-    if (!everyPlugin && mode != "handler") return model;
     for (const auto& [name, value] : plugins) {
         PluginEntry plugin = readPluginEntry(value, mode);
         if (everyPlugin || !plugin.params.empty()) model.push_back({name, std::move(plugin)});

@@ -130,7 +130,8 @@ TEST(ReadCombinedModel, AnyOtherModeGivesAnEmptyModel) {
 }
 
 TEST(ReadPluginEntry, AnyOtherModeGivesAnEmptyEntry) {
-    const json::Value plugin = documentOf(R"({"type":"material","params":{"a":{"type":"bool"}}})");
+    const json::Value plugin = documentOf(R"({"type":"material","params":{"a":)" + handlerParam +
+                                          R"(},"userData":{)" + companions + "}}");
     const PluginEntry entry = readPluginEntry(plugin, "other");
     EXPECT_TRUE(entry.params.empty());
     EXPECT_EQ(entry.category, nullptr);
