@@ -123,6 +123,18 @@ test("codes that don't occur are refused", () => {
   assert.throws(() => listingOf(withPart(META, META.indexOf(266), 267)), /267/, "a value's tag");
 });
 
+test("each description takes its own tag alone", () => {
+  assert.throws(() => readWhole(readers.handlers, bytesOf("META", 3, 0)));
+  assert.throws(() => readWhole(readers.meta, bytesOf("HDLR", 3, 0, 0, 0, 0)));
+});
+
+test("every descriptor is taken", () => {
+  for (const descriptor of [273, 289, 321, 385, 521, 522, 524, 529, 545, 577, 641]) {
+    const bytes = bytesOf("META", 3, 1, 0, 0, 1, 0, 0, 0, 3, descriptor, 0, 0, 0);
+    assert.match(listingOf(bytes), new RegExp(`descriptor ${descriptor} `));
+  }
+});
+
 test("numbers are listed with nine digits", () => {
   const texts = [0.1, 1, -0, 1e-7, 123456789, 1234567890, 0.0001, 16777216, 3.4e38, -2.5]
     .map((number) => general(Math.fround(number)));

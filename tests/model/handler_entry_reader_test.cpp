@@ -45,9 +45,26 @@ TEST(ReadHandlerEntry, AParameterWithoutHandlerIsNone) {
     EXPECT_EQ(read(R"({"type":"color"})", withColor("1")), notKept);
 }
 
+TEST(ReadHandlerEntry, HandlersAreComparedWhole) {
+    const std::string everything =
+        "{" + frame + R"(,"p_color":{"defaultValue":"2"},"p_float":{"defaultValue":"2"},)" +
+        R"("p_duplicate":0,"p_duplicate_output":0})";
+    for (const std::string handler :
+         {"ColorTexFrameHandler", "FloatTexFrameHandler", "DuplicateHandler"}) {
+        const auto readAs = [&](const std::string& text) {
+            return read(R"({"handler":")" + text + R"("})", everything);
+        };
+        EXPECT_NE(readAs(handler), notKept) << handler;
+        EXPECT_EQ(readAs(handler + "2"), notKept) << handler;
+        EXPECT_EQ(readAs(handler + "\\u0000"), notKept) << handler;
+        EXPECT_EQ(readAs(handler.substr(1)), notKept) << handler;
+        EXPECT_EQ(readAs(handler.substr(0, handler.size() - 1)), notKept) << handler;
+        EXPECT_EQ(readAs(" " + handler), notKept) << handler;
+    }
+}
+
 TEST(ReadHandlerEntry, AnotherHandlerIsNone) {
-    for (const std::string handler : {"", "colorTexFrameHandler", "ColorTexFrameHandler2",
-                                      "ColorTexFrameHandle", "FileBrowserHandler"}) {
+    for (const std::string handler : {"", "colorTexFrameHandler", "FileBrowserHandler"}) {
         EXPECT_EQ(read(R"({"handler":")" + handler + R"("})", withColor("1")), notKept) << handler;
     }
 }
