@@ -37,6 +37,7 @@ PluginRecord buildParameters(const Renderer& renderer, const std::string& typeTe
     for (std::string& name : renderer.parameterNames(typeText)) {
         if (plugin.parameters.contains(name)) continue;
         const void* definition = renderer.parameterDefinition(typeText, name);
+        if (definition == nullptr) continue;  // a name that is null, or that the SDK doesn't know
         // Asked of every definition, as the SDK's users do; the base document has no place for it.
         static_cast<void>(renderer.gpuSupport(typeText, definition));
         const std::int32_t code = entryPoints().Qyra_PluginUtils_getPropertyType(definition);
