@@ -1,7 +1,9 @@
 #include "cli/abnormal_end.h"
 #include "cli/driver.h"
+#include "cli/standard_streams.h"
 
 int main(int argumentCount, char** arguments) {
+    metagen::openMissingStandardStreams();
     metagen::installAbnormalEnd();
     return metagen::runDriver(argumentCount, arguments);
 }

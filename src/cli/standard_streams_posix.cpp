@@ -1,0 +1,16 @@
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "cli/standard_streams.h"
+
+namespace metagen {
+
+void openMissingStandardStreams() {
+    for (int number = STDIN_FILENO; number <= STDERR_FILENO; ++number) {
+        if (fcntl(number, F_GETFD) != -1) continue;
+        // The lowest free number is taken, and that is this one.
+        static_cast<void>(open("/dev/null", number == STDIN_FILENO ? O_RDONLY : O_WRONLY));
+    }
+}
+
+}  // namespace metagen

@@ -1,0 +1,8 @@
+#include "cli/standard_streams.h"
+
+namespace metagen {
+
+// The C library there keeps the first three numbers for the standard streams, open or not.
+void openMissingStandardStreams() {}
+
+}  // namespace metagen
