@@ -12,6 +12,7 @@ import copy
 import dataclasses
 import json
 import multiprocessing
+import os
 import pathlib
 import subprocess
 import sys
@@ -153,7 +154,9 @@ def run(case, texts, folder):
     ledger = folder / "ledger.txt"
     environment = harness.environment_of_run({
         "QYRA_SDK": harness.REPLAY_SDK, "QYRA_REPLAY_LEDGER": ledger,
-        "QYRA_REPLAY_CATALOGUE": case.catalogue and folder / case.catalogue})
+        "QYRA_REPLAY_CATALOGUE": case.catalogue and folder / case.catalogue,
+        "LC_ALL": os.environ.get("METAGEN_RUN_LOCALE") or None,
+        "LOCPATH": os.environ.get("LOCPATH")})
     finished = subprocess.run(
         [*harness.LAUNCHER, str(harness.BINARY), *case.arguments], cwd=folder, env=environment,
         stdin=subprocess.DEVNULL, capture_output=True, timeout=harness.RUN_SECONDS, check=False)

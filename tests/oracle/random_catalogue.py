@@ -45,8 +45,9 @@ class RandomCatalogue:
         return self._random.choices(names, k=self._random.randrange(2 * len(names))) if names else []
 
     def _names(self, count):
-        return {"".join(self._random.choices(NAME_PARTS, k=self._random.randrange(1, 5)))
-                for _ in range(count)}
+        # Sorted, since the order of a set is another in every process.
+        return sorted({"".join(self._random.choices(NAME_PARTS, k=self._random.randrange(1, 5)))
+                       for _ in range(count)})
 
     def _text(self):
         parts = TEXT_PARTS + list(string.ascii_letters[:3])
