@@ -2,6 +2,7 @@
 
 import json
 import pathlib
+import re
 import shutil
 import sys
 import unittest
@@ -9,7 +10,7 @@ import unittest
 from harness import FAILURE, GOLDEN, LAUNCHER, REPLAY_SDK, ROOT, WINDOWS, CommandTest, native
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "oracle"))
-from base_document import base_document, read_catalogue  # noqa: E402
+from base_document import KINDS, base_document, kind_of, read_catalogue  # noqa: E402
 from random_catalogue import random_catalogue  # noqa: E402
 
 BUNDLED_CATALOGUE = ROOT / "replay_sdk" / "catalogue.json"
@@ -65,6 +66,40 @@ class RandomCatalogues(ReplayTest):
                 expected = base_document(catalogue)
                 self.assert_dump(expected, catalogue=self.write("random.json", text))
                 self.assert_dump(expected, "again.json", catalogue=self.folder / "base.json")
+
+
+class Documentation(ReplayTest):
+    """Every example of the README is a catalogue, or a part of one."""
+
+    README = (ROOT / "replay_sdk" / "README.md").read_text(encoding="utf-8")
+
+    def assert_served(self, catalogue):
+        self.assert_dump(base_document(catalogue),
+                         catalogue=self.write("example.json", json.dumps(catalogue)))
+
+    def test_the_blocks_are_right(self):
+        blocks = re.findall(r"^```json\n(.*?)^```", self.README, re.DOTALL | re.MULTILINE)
+        self.assertGreater(len(blocks), 5)
+        for block in blocks:
+            with self.subTest(block=block):
+                if not block.startswith("{"):
+                    members = json.loads("{" + block + "}")
+                    is_class = any("params" in member for member in members.values())
+                    members = members if is_class else {"C": {"params": members}}
+                    self.assert_served({"plugins": members})
+                elif "rendererErrorCode" in block:
+                    self.assert_run(["dump", "-o", "refused.json"], status=FAILURE,
+                                    stdout=NO_RENDERER, catalogue=self.write("example.json", block))
+                else:
+                    self.assert_served(json.loads(block))
+
+    def test_the_kinds_of_defaults_are_right(self):
+        examples = re.findall(r'`(\{"kind": .*?\})`[, |]', self.README)
+        defaults = {f"p{index}": {"typeCode": 9, "default": json.loads(example)}
+                    for index, example in enumerate(examples)}
+        kinds = {kind_of(parameter["default"]) for parameter in defaults.values()}
+        self.assertEqual({*KINDS.values(), 20000}, kinds)
+        self.assert_served({"plugins": {"C": {"params": defaults}}})
 
 
 class WhereTheCatalogueIs(ReplayTest):
