@@ -266,9 +266,13 @@ def main():
         for command in arguments.command or CASES:
             began = time.monotonic()
             work = [(command, seed) for seed in range(*arguments.seeds)]
-            reports = [report for report in pool.imap(check, work, chunksize=20) if report]
-            for report in reports[:5]:
-                print(report, flush=True)
+            reports = []
+            for done, report in enumerate(pool.imap(check, work, chunksize=20), 1):
+                if report:
+                    reports.append(report)
+                    print(report, flush=True)
+                if done % 1000 == 0:
+                    print(f"{command}: {done} compared", flush=True)
             print(f"{command}: {len(work)} documents, {len(reports)} disagreements, "
                   f"{time.monotonic() - began:.0f} s", flush=True)
             failed = failed or bool(reports)
