@@ -26,7 +26,8 @@ def time_bar(command, scale):
 
 
 def peers_text(result):
-    texts = [f"{name} {judged(time / result.time, subjects.PEER_BAR, at_least=True)}"
+    own = result.time - result.sdk  # peers ask no SDK
+    texts = [f"{name} {judged(time / own, subjects.PEER_BAR, at_least=True)}"
              for name, time in result.peers.items()]
     return ", ".join(texts)
 
