@@ -307,6 +307,30 @@ class TextureHandlerChecks(CombineTest):
             live={})
 
 
+class Size(CombineTest):
+    def test_a_plugin_of_very_many_parameters_takes_no_longer_than_its_size_asks_for(self):
+        # Anything quadratic takes minutes, longer than a run may.
+        names = [f"p{number:06}" for number in range(150_000)]
+        live = {name: {"type": "float", "defaultValue": "1"} for name in names}
+        params = {name: {"handler": "FloatTexFrameHandler"} for name in names}
+        data = {f"{name}_tex": {} for name in names}
+        written_params = ",".join(
+            f'"{name}":{{"type":"float","defaultValue":"1","handler":"FloatTexFrameHandler"}}'
+            for name in names)
+        written_data = ",".join(f'"{name}_tex":{{}}' for name in names)
+        self.assert_combines(
+            {"plugins": {"P": {"params": params, "userData": data}}},
+            f'{{"plugins":{{"P":{{"type":null,"params":{{{written_params}}},'
+            f'"userData":{{{written_data}}}}}}}}}',
+            summary(failures=sorted(
+                ["P: the plugin has float texture handler(s) but no 'texture_multiplier_mode' \"",
+                 *(f"P::{name}: {text}" for name in names for text in (
+                     'Float texture frame handler defined, but no "_float" user data',
+                     "_tex_* user data is missing",
+                     f"expecting exactly one {name}_float or {name}_color"))])),
+            live={"P": {"params": live}})
+
+
 class Failure(CombineTest):
     def test_an_input_that_can_not_be_opened(self):
         self.assert_run(ARGUMENTS, status=FAILURE,

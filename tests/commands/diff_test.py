@@ -70,6 +70,18 @@ class Report(CommandTest):
         self.assert_report(left, right, ":a" * 1000 + " different values are 1 and 2\n")
 
 
+class Size(CommandTest):
+    def test_an_object_of_very_many_members_takes_no_longer_than_its_size_asks_for(self):
+        # Anything quadratic takes minutes, longer than a run may.
+        names = [f"n{number:06}" for number in range(200_000)]
+        self.write("left.json", json.dumps({name: {"a": 1} for name in names}))
+        self.write("right.json", json.dumps({name + "x": {"a": 1} for name in names}))
+        self.assert_run(ARGUMENTS)
+        self.assert_text_file("diff.txt", "".join(
+            f":{name} is only present on left side\n:{name}x is only present on right side\n"
+            for name in names))
+
+
 class Oracle(CommandTest):
     """Comparisons with the independent counterpart in tests/oracle."""
 
