@@ -93,7 +93,7 @@ private:
             return;
         }
         hasHandler = true;
-        const auto* const shared = companions.begin() + firstSharedSuffix;
+        const auto shared = companions.begin() + firstSharedSuffix;
         if (std::find(shared, companions.end(), false) != companions.end()) {
             record(name, "_tex_* user data is missing");
         }
