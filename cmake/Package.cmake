@@ -4,15 +4,19 @@
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 
+# The replay SDK may be left out of a package; everything else stays together.
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME metagen)
+
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/metagen")
 set(replay_sdk_folder "${CMAKE_INSTALL_LIBDIR}/metagen/replay_sdk")
 
 install(TARGETS metagen EXPORT metagenTargets RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-install(TARGETS replay_sdk LIBRARY DESTINATION "${replay_sdk_folder}/bin")
-install(FILES replay_sdk/catalogue.json DESTINATION "${replay_sdk_folder}/bin")
+install(TARGETS replay_sdk
+    LIBRARY DESTINATION "${replay_sdk_folder}/bin" COMPONENT replay_sdk)
+install(FILES replay_sdk/catalogue.json
+    DESTINATION "${replay_sdk_folder}/bin" COMPONENT replay_sdk)
+install(FILES replay_sdk/README.md DESTINATION "${replay_sdk_folder}" COMPONENT replay_sdk)
 install(FILES cmake/MetagenHost.cmake cmake/MetagenTables.cmake DESTINATION "${package_folder}")
-install(FILES LICENSE README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
-
 # For another build on this machine as well as for an installed metagen: a package is searched for
 # by its version alone, since metagen makes source text that fits every system.
 install(EXPORT metagenTargets NAMESPACE metagen:: DESTINATION "${package_folder}")

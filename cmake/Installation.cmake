@@ -1,0 +1,34 @@
+# What `cmake --install` lays down beyond the package for hosts: the manual, completions, schemas, the
+# report tool, documentation and examples, in their standard places.
+
+include(GNUInstallDirs)
+
+if(METAGEN_MANUAL)
+    install(FILES "${METAGEN_MANUAL_FOLDER}/manual.html" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+endif()
+if(METAGEN_MANUAL AND NOT WIN32)
+    # The report tool is described in the same page.
+    file(WRITE "${METAGEN_MANUAL_FOLDER}/metagen-report.1" ".so man1/metagen.1\n")
+    install(FILES "${METAGEN_MANUAL_FOLDER}/metagen.1" "${METAGEN_MANUAL_FOLDER}/metagen-report.1"
+        DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+endif()
+if(NOT WIN32)
+    install(FILES completions/metagen.bash
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME metagen)
+    install(FILES completions/_metagen DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
+endif()
+
+install(PROGRAMS tools/metagen-report DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(DIRECTORY tools/metagen_report DESTINATION "${CMAKE_INSTALL_DATADIR}/metagen"
+    FILES_MATCHING PATTERN "*.py" PATTERN "*.css" PATTERN "*.js" PATTERN __pycache__ EXCLUDE)
+
+install(DIRECTORY schemas DESTINATION "${CMAKE_INSTALL_DATADIR}/metagen")
+install(DIRECTORY examples DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(FILES CHANGELOG.md LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(FILES
+    docs/bin-formats.md
+    docs/handlers.ksy
+    docs/integrating.md
+    docs/manual.md
+    docs/meta.ksy
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}/docs")

@@ -1,0 +1,57 @@
+"""Every link in the project's pages leads somewhere, in the sources and where they are installed."""
+
+import os
+import pathlib
+import re
+import subprocess
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+BUILD = pathlib.Path(os.environ.get("METAGEN_BUILD", ROOT / "build" / "release"))
+
+_LINK = re.compile(r"\]\((?!https?:)([^)#]*)(?:#([^)]*))?\)")
+
+
+def anchors(page):
+    """The anchors that a forge makes of a page's headings."""
+    headings = re.findall(r"^#+ (.*)$", page.read_text(encoding="utf-8"), re.MULTILINE)
+    return {re.sub(r"[^\w -]", "", heading).lower().replace(" ", "-") for heading in headings}
+
+
+def dead_links(pages):
+    found = []
+    for page in pages:
+        for target, anchor in _LINK.findall(page.read_text(encoding="utf-8")):
+            place = page.parent / target if target else page
+            if not place.exists() or (anchor and anchor not in anchors(place)):
+                found.append(f"{page}: {target}#{anchor}")
+    return found
+
+
+class LinksTest(unittest.TestCase):
+    def test_a_dead_link_is_found(self):
+        with tempfile.TemporaryDirectory() as folder:
+            page = pathlib.Path(folder, "page.md")
+            page.write_text("# A b\n[x](page.md#a-b) [y](page.md#c) [z](none.md) [w](https://w)",
+                            encoding="utf-8")
+            self.assertEqual([f"{page}: page.md#c", f"{page}: none.md#"], dead_links([page]))
+
+    def test_in_the_sources(self):
+        listed = subprocess.run(["git", "ls-files", "*.md"], cwd=ROOT, text=True,
+                                capture_output=True, check=True).stdout.split("\n")
+        pages = [ROOT / name for name in listed if name]
+        self.assertGreater(len(pages), 5)
+        self.assertEqual([], dead_links(pages))
+
+    def test_where_they_are_installed(self):
+        with tempfile.TemporaryDirectory(prefix="metagen-test-") as prefix:
+            subprocess.run(["cmake", "--install", BUILD, "--prefix", prefix], check=True,
+                           stdout=subprocess.DEVNULL)
+            pages = sorted(pathlib.Path(prefix).rglob("*.md"))
+            self.assertGreater(len(pages), 3)
+            self.assertEqual([], dead_links(pages))
+
+
+if __name__ == "__main__":
+    unittest.main()
