@@ -1,0 +1,30 @@
+# Run by cpack on the tree that it is about to pack: what Debian's policy asks beyond an installation
+# elsewhere.
+
+set(share "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share")
+set(doc "${share}/doc/metagen")
+
+# Debian's zsh looks in another folder than that of other systems.
+file(MAKE_DIRECTORY "${share}/zsh/vendor-completions")
+file(RENAME "${share}/zsh/site-functions/_metagen" "${share}/zsh/vendor-completions/_metagen")
+file(REMOVE_RECURSE "${share}/zsh/site-functions")
+
+# The licence stands in the file copyright, the changes in changelog.gz.
+file(READ "${doc}/LICENSE" licence)
+file(WRITE "${doc}/copyright" "${licence}")
+file(REMOVE "${doc}/LICENSE")
+file(RENAME "${doc}/CHANGELOG.md" "${doc}/changelog")
+
+string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+file(WRITE "${doc}/changelog.Debian"
+"metagen (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
+
+  * See changelog.gz.
+
+ -- ${CPACK_PACKAGE_CONTACT}  ${date}
+")
+
+file(GLOB man_pages "${share}/man/man1/*.1")
+execute_process(
+    COMMAND gzip -9n "${doc}/changelog" "${doc}/changelog.Debian" ${man_pages}
+    COMMAND_ERROR_IS_FATAL ANY)
