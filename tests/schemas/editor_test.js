@@ -1,0 +1,98 @@
+// What an editor makes of the schema of stripped documents: asks the JSON language service that
+// common editors share for completions, hovers and findings.
+"use strict";
+
+const assert = require("node:assert");
+const fs = require("node:fs");
+const path = require("node:path");
+const { test } = require("node:test");
+
+const { getLanguageService, TextDocument } = require("vscode-json-languageservice");
+
+const ROOT = path.join(__dirname, "..", "..");
+const schema = JSON.parse(
+  fs.readFileSync(path.join(ROOT, "schemas", "stripped.schema.json"), "utf8"));
+
+const service = getLanguageService({});
+service.configure({
+  validate: true,
+  schemas: [{ uri: "file:///stripped.schema.json", fileMatch: ["*.json"], schema }],
+});
+
+/** The document of a text, the place of the "|" in it, and the parsed document. */
+function open(text) {
+  const [before, after = ""] = text.split("|");
+  const document = TextDocument.create("file:///stripped.json", "json", 1, before + after);
+  return { document, position: document.positionAt(before.length), parsed:
+    service.parseJSONDocument(document) };
+}
+
+/** What is offered at the "|", in order. */
+async function offered(text) {
+  const { document, position, parsed } = open(text);
+  const { items } = await service.doComplete(document, position, parsed);
+  return items.map((item) => item.label.replaceAll('"', "")).sort();
+}
+
+/** What is shown of the key or value at the "|". */
+async function shown(text) {
+  const { document, position, parsed } = open(text);
+  const hover = await service.doHover(document, position, parsed);
+  return [hover?.contents ?? []].flat().join("\n").replaceAll("\\", "");
+}
+
+/** The texts that are marked as wrong. */
+async function marked(text) {
+  const { document, parsed } = open(text);
+  const findings = await service.doValidation(document, parsed);
+  return findings.map((finding) => document.getText(finding.range));
+}
+
+const inPlugin = (text) => `{"plugins": {"A": {${text}}}}`;
+const inParameter = (text) => inPlugin(`"params": {"p": {${text}}}`);
+
+test("the keys of a document, a plugin and a parameter are offered", async () => {
+  const parameterKeys = ["defaultValue", "handler", "handlerinfo", "listType", "scaling", "type"];
+  assert.deepStrictEqual(await offered("{|}"), ["$schema", "plugins", "version"]);
+  assert.deepStrictEqual(await offered(inPlugin("|")), ["params", "type", "userData"]);
+  assert.deepStrictEqual(await offered(inParameter("|")), parameterKeys);
+  assert.deepStrictEqual(await offered(inPlugin('"userData": {"x_tex": {|}}')), parameterKeys);
+  assert.deepStrictEqual(await offered(inParameter('"scaling": {|}')),
+    ["conditions", "inverse", "power", "unit"]);
+});
+
+test("keys that are there already are not offered again", async () => {
+  assert.deepStrictEqual(await offered(inPlugin('"type": "light", "params": {}, |')), ["userData"]);
+});
+
+test("types, categories and handlers are offered", async () => {
+  const types = await offered(inParameter('"type": |'));
+  assert.deepStrictEqual(types, [...schema.$defs.typeName.enum].sort());
+  assert.ok((await offered(inPlugin('"type": |'))).includes("light"));
+  const handlers = await offered(inParameter('"handler": |'));
+  for (const name of ["ColorTexFrameHandler", "DuplicateHandler", "FileBrowserHandler",
+    "FloatTexFrameHandler"]) {
+    assert.ok(handlers.includes(name), name);
+  }
+});
+
+test("what a key means is shown", async () => {
+  assert.match(await shown('{"ver|sion": 1}'), /^The version of the host's metadata/);
+  assert.match(await shown(inParameter('"handler|info": {}')), /^What the handler needs to know/);
+  assert.match(await shown(inPlugin('"userData": {"gloss_te|x": {"type": "texture"}}')),
+    /^The texture of the parameter that the rest of the name gives/);
+});
+
+test("mistakes are marked where they stand", async () => {
+  assert.deepStrictEqual(await marked(inParameter('"type": "Float"')), ['"Float"']);
+  assert.deepStrictEqual(await marked(inParameter('"defaultValue": 1')), ["1"]);
+  assert.deepStrictEqual(
+    await marked(inParameter('"type": "color", "defaultValue": "Color(1, 1)"')), ['"Color(1, 1)"']);
+  assert.deepStrictEqual(await marked(inParameter('"scaling": {"unit": 2}')), ["2"]);
+  assert.deepStrictEqual(await marked('{"plugins": {"A": null, "B": 1}}'), ["1"]);
+});
+
+test("nothing is marked in the example", async () => {
+  const example = fs.readFileSync(path.join(ROOT, "examples", "stripped.json"), "utf8");
+  assert.deepStrictEqual(await marked(example), []);
+});
