@@ -8,18 +8,29 @@
 namespace metagen::json {
 namespace {
 
-/// Writes the text to a file and parses it as a document.
-std::string parsed(const std::string& text) {
-    const std::string path = testing::TempDir() + "metagen_json_file_test.json";
-    writeAll(openForWriting(path.c_str()).get(), text);
-    File file = openForReading(path.c_str());
-    std::filesystem::remove(path);
-    return compactText(parseFileOrExit(std::move(file), "unreadable", "malformed %s"));
-}
+/// A file in the tests' temporary folder, removed after use: not before, since Windows keeps the
+/// file of an open document.
+class ParseFileOrExit : public testing::Test {
+protected:
+    ~ParseFileOrExit() override { std::filesystem::remove(path); }
 
-TEST(ParseFileOrExit, GivesTheDocument) { EXPECT_EQ(parsed(" {\"a\": 1}\n"), "{\"a\":1}"); }
+    /// Writes the text to the file and parses it as a document.
+    std::string parsed(const std::string& text) const {
+        writeAll(openForWriting(path.c_str()).get(), text);
+        return compactText(
+            parseFileOrExit(openForReading(path.c_str()), "unreadable", "malformed %s"));
+    }
 
-TEST(ParseFileOrExitDeathTest, EndsTheProcessForABrokenDocument) {
+private:
+    std::string path = testing::TempDir() + "metagen_json_file_test_" +
+                       testing::UnitTest::GetInstance()->current_test_info()->name() + ".json";
+};
+
+using ParseFileOrExitDeathTest = ParseFileOrExit;
+
+TEST_F(ParseFileOrExit, GivesTheDocument) { EXPECT_EQ(parsed(" {\"a\": 1}\n"), "{\"a\":1}"); }
+
+TEST_F(ParseFileOrExitDeathTest, EndsTheProcessForABrokenDocument) {
     EXPECT_EXIT(parsed("{"), testing::ExitedWithCode(1), "^malformed %s$");
     EXPECT_EXIT(parsed(""), testing::ExitedWithCode(1), "^malformed %s$");
 }
