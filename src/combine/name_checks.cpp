@@ -51,7 +51,9 @@ void reportEntries(const std::string& plugin, const json::Object& entries) {
     for (const auto& [name, entry] : entries) {
         if (!lacksDefault(json::asObject(entry))) continue;
         // The spelling is deliberate: scripts look for it. There is no type and no value to show.
-        print(plugin + "::" + name + " : Unexpected defautValue format for type  = \n");
+        std::string line = plugin;
+        line.append("::").append(name).append(" : Unexpected defautValue format for type  = \n");
+        print(line);
     }
 }
 
@@ -69,7 +71,9 @@ bool reportNameClashes(const json::Object& plugins) {
     for (const auto& [name, plugin] : plugins) {
         const std::string names = clashingNames(plugin);
         if (names.empty()) continue;
-        print(name + " has duplicated named param and userdata - " + names + '\n');
+        std::string line = name;
+        line.append(" has duplicated named param and userdata - ").append(names).append("\n");
+        print(line);
         found = true;
     }
     return found;
