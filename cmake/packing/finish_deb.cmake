@@ -11,8 +11,9 @@ file(REMOVE_RECURSE "${share}/zsh/site-functions")
 
 # The licence stands in the file copyright, the changes in changelog.gz.
 file(READ "${doc}/LICENSE" licence)
-file(WRITE "${doc}/copyright" "${licence}")
-file(REMOVE "${doc}/LICENSE")
+file(READ "${doc}/NOTICE" notice)
+file(WRITE "${doc}/copyright" "${licence}\n${notice}")
+file(REMOVE "${doc}/LICENSE" "${doc}/NOTICE")
 file(RENAME "${doc}/CHANGELOG.md" "${doc}/changelog")
 
 string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "combine/live_document.h"
 #include "metadata/base_document.h"
 #include "metadata/live_metadata.h"
 #include "support/json_file.h"
@@ -17,7 +18,13 @@ json::Value& readStrippedDocument(File file, const char* path) {
 }
 
 json::Value& readLiveDocument(const Renderer& renderer) {
-    return parseLiveDocument(baseDocument(buildLiveMetadata(renderer)));
+    LiveDocument document;
+    visitPlugins(renderer, [&document](std::string className, PluginRecord plugin) {
+        document.add(std::move(className), std::move(plugin));
+    });
+    if (document.isFaithful()) return json::keepToProcessEnd(document.take());
+    // What such names make of the document, the parser has to tell.
+    return parseLiveDocument(readBaseDocument(renderer).text());
 }
 
 json::Value& parseLiveDocument(std::string_view text) {

@@ -1,36 +1,20 @@
 #include "metadata/base_document.h"
 
-#include "metadata/default_value_text.h"
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
 #include "metadata/parameter_type.h"
 #include "support/escaped_text.h"
+#include "support/text_file.h"
 
 namespace metagen {
 
 namespace {
 
-/// Appends the members of an object, each as its key, unescaped, and what appendValue appends.
-template <typename Members, typename AppendValue>
-void appendObject(std::string& out, const Members& members, const AppendValue& appendValue) {
-    out += '{';
-    const char* separator = "";
-    for (const auto& [key, value] : members) {
-        out += separator;
-        out += '"';
-        out += key;  // deliberately as it is: consumers know the SDK's names by their bytes
-        out += "\":";
-        appendValue(out, value);
-        separator = ",";
-    }
-    out += '}';
-}
+std::int32_t codeOf(const NamedParameter& parameter) { return parameter.record.code; }
 
-void appendDefault(std::string& out, const std::string& text) {
-    out += ",\"defaultValue\":\"";
-    appendEscaped(out, text);
-    out += '"';
-}
-
-void appendPlugin(std::string& out, const PluginRecord& plugin) {
+void appendPlugin(std::string& out, const PluginRecord& plugin, std::string& defaultTextBuffer) {
     out += "{\"type\":";
     if (plugin.category) {
         out += '"';
@@ -39,45 +23,80 @@ void appendPlugin(std::string& out, const PluginRecord& plugin) {
     } else {
         out += "null";
     }
-    out += ",\"params\":";
-    appendObject(out, plugin.parameters, appendParameter);
-    out += '}';
-}
-
-void appendSingle(std::string& out, const ParameterRecord& parameter) {
-    out += "{\"type\":\"";
-    out += typeName(parameter.code);
-    out += '"';
-    const std::string text = defaultValueText(parameter.defaultValue);
-    if (text != "\"\"" && text != "none") appendDefault(out, text);
-    out += '}';
-}
-
-void appendList(std::string& out, const ParameterRecord& parameter) {
-    out += R"({"type":"list","listType":")";
-    out += typeName(parameter.code);
-    out += '"';
-    if (listSize(parameter.defaultValue) > 0) {
-        appendDefault(out, defaultValueText(parameter.defaultValue));
+    out += ",\"params\":{";
+    const char* separator = "\"";
+    for (const auto& [name, parameter] : plugin.parameters) {
+        out += separator;
+        out += name;  // deliberately as it is, like the names of classes
+        out += "\":";
+        appendParameter(out, describe(parameter, defaultTextBuffer));
+        separator = ",\"";
     }
-    out += '}';
+    out += "}}";
 }
 
 }  // namespace
 
-std::string baseDocument(const LiveMetadata& metadata) {
-    std::string document = "{\"plugins\":";
-    appendObject(document, metadata, appendPlugin);
-    document += '}';
+void BaseDocument::add(std::string className, const PluginRecord& plugin) {
+    const auto [place, isNew] = plugins.try_emplace(std::move(className));
+    if (!isNew) return;
+    const auto nameless = std::ranges::find_if_not(plugin.parameters, hasTypeName, codeOf);
+    if (nameless != plugin.parameters.end()) {
+        namelessCode = nameless->record.code;
+        return;
+    }
+    objectBuffer.clear();
+    appendPlugin(objectBuffer, plugin, defaultTextBuffer);
+    place->second = objectBuffer;  // a copy, which takes no more room than the text needs
+}
+
+template <typename Append>
+void BaseDocument::forEachPiece(const Append& append) const {
+    if (namelessCode) static_cast<void>(typeName(*namelessCode));  // ends the process
+    const char* separator = "{\"plugins\":{\"";
+    for (const auto& [name, object] : plugins) {
+        append(separator);
+        append(name);  // deliberately as it is: consumers know the SDK's names by their bytes
+        append("\":");
+        append(object);
+        separator = ",\"";
+    }
+    append(plugins.empty() ? "{\"plugins\":{}}" : "}}");
+}
+
+void BaseDocument::write(std::FILE* file) const {
+    forEachPiece([file](std::string_view piece) { writeAll(file, piece); });
+}
+
+std::string BaseDocument::text() const {
+    std::size_t length = 0;
+    forEachPiece([&length](std::string_view piece) { length += piece.size(); });
+    std::string document;
+    document.reserve(length);
+    forEachPiece([&document](std::string_view piece) { document += piece; });
     return document;
 }
 
-void appendParameter(std::string& out, const ParameterRecord& parameter) {
-    if (parameter.isList) {
-        appendList(out, parameter);
-    } else {
-        appendSingle(out, parameter);
+BaseDocument readBaseDocument(const Renderer& renderer) {
+    BaseDocument document;
+    visitPlugins(renderer, [&document](std::string className, const PluginRecord& plugin) {
+        document.add(std::move(className), plugin);
+    });
+    return document;
+}
+
+void appendParameter(std::string& out, const ParameterDescription& parameter) {
+    out += "{\"type\":\"";
+    out += parameter.type;
+    if (!parameter.listType.empty()) {
+        out += "\",\"listType\":\"";
+        out += parameter.listType;
     }
+    if (parameter.defaultText) {
+        out += "\",\"defaultValue\":\"";
+        appendEscaped(out, *parameter.defaultText);
+    }
+    out += "\"}";
 }
 
 }  // namespace metagen

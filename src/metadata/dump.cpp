@@ -3,7 +3,6 @@
 #include <memory>
 
 #include "metadata/base_document.h"
-#include "metadata/live_metadata.h"
 #include "support/process_end.h"
 #include "support/text_file.h"
 
@@ -13,7 +12,7 @@ void dump(const char* outputPath) {
     const std::unique_ptr<Renderer> renderer = createRendererOrExit();
     const File output = openForWriting(outputPath);
     requireOrExit(output != nullptr, "Could not open file");
-    writeAll(output.get(), baseDocument(buildLiveMetadata(*renderer)));
+    readBaseDocument(*renderer).write(output.get());
 }
 
 }  // namespace metagen

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 #include <utility>
 #include <vector>
 
 #include "metadata/category.h"
 #include "metadata/default_value_query.h"
+#include "metadata/key_order.h"
 #include "sdk/entry_point_table.h"
 #include "support/process_end.h"
 
@@ -32,19 +34,40 @@ ParameterRecord buildParameter(const void* definition, std::int32_t code) {
             .defaultValue = queryDefaultValue(definition, code)};
 }
 
-PluginRecord buildParameters(const Renderer& renderer, const std::string& typeText) {
-    PluginRecord plugin;
-    for (std::string& name : renderer.parameterNames(typeText)) {
-        if (plugin.parameters.contains(name)) continue;
-        const void* definition = renderer.parameterDefinition(typeText, name);
+/// For each name its place among the different ones, in the combined order.
+std::vector<std::size_t> placesInOrder(const std::vector<std::string>& names) {
+    std::vector<std::size_t> order(names.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    const auto nameOf = [&names](std::size_t index) { return std::string_view(names[index]); };
+    std::ranges::sort(order, CombinedKeyLess(), nameOf);
+    std::vector<std::size_t> places(names.size());
+    std::size_t place = 0;
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        if (CombinedKeyLess()(nameOf(order[i - 1]), nameOf(order[i]))) ++place;
+        places[order[i]] = place;
+    }
+    return places;
+}
+
+std::vector<NamedParameter> buildParameters(const Renderer& renderer, const std::string& typeText) {
+    std::vector<std::string> names = renderer.parameterNames(typeText);
+    const std::vector<std::size_t> places = placesInOrder(names);
+    std::vector<NamedParameter> parameters(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        NamedParameter& parameter = parameters[places[i]];
+        if (isRecorded(parameter.record.code)) continue;
+        const void* definition = renderer.parameterDefinition(typeText, names[i]);
         if (definition == nullptr) continue;  // a name that is null, or that the SDK doesn't know
         // Asked of every definition, as the SDK's users do; the base document has no place for it.
         static_cast<void>(renderer.gpuSupport(typeText, definition));
         const std::int32_t code = entryPoints().Qyra_PluginUtils_getPropertyType(definition);
         if (!isRecorded(code)) continue;
-        plugin.parameters.emplace(std::move(name), buildParameter(definition, code));
+        parameter = {std::move(names[i]), buildParameter(definition, code)};
     }
-    return plugin;
+    std::erase_if(parameters, [](const NamedParameter& parameter) {
+        return !isRecorded(parameter.record.code);
+    });
+    return parameters;
 }
 
 [[noreturn]] void reportConflict(const std::string& typeText, std::uint32_t bits) {
@@ -61,23 +84,19 @@ PluginRecord buildParameters(const Renderer& renderer, const std::string& typeTe
 
 PluginRecord buildPlugin(const Renderer& renderer, const std::string& className) {
     const std::string typeText = renderer.typeText(className);
-    PluginRecord plugin = buildParameters(renderer, typeText);
+    std::vector<NamedParameter> parameters = buildParameters(renderer, typeText);
     const CategoryResolution category = resolveCategory(renderer.categoryBits(typeText));
     if (category.conflict) reportConflict(typeText, category.conflictingBits);
-    plugin.category = category.name;
-    return plugin;
+    return {.category = category.name, .parameters = std::move(parameters)};
 }
 
 }  // namespace
 
-LiveMetadata buildLiveMetadata(const Renderer& renderer) {
-    LiveMetadata metadata;
+void visitPlugins(const Renderer& renderer, const PluginVisitor& visit) {
     for (std::string& className : renderer.pluginClassNames()) {
-        // A class whose name is taken is built all the same: its errors count.
         PluginRecord plugin = buildPlugin(renderer, className);
-        metadata.try_emplace(std::move(className), std::move(plugin));
+        visit(std::move(className), std::move(plugin));
     }
-    return metadata;
 }
 
 }  // namespace metagen

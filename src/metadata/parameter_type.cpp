@@ -45,14 +45,22 @@ std::int32_t elementCode(std::string_view name) {
     return entry == vocabulary.end() ? type_code::unknown : entry->code;
 }
 
-}  // namespace
-
-std::string_view typeName(std::int32_t code) {
+/// The name that is written for the code; empty when there is none.
+std::string_view findName(std::int32_t code) {
     if (code == type_code::list) return listName;
     constexpr std::int32_t firstListCode = type_code::listOffset;
     const std::int32_t element = code >= firstListCode ? code - firstListCode : code;
     const auto entry = std::ranges::find(vocabulary, element, &NamedCode::code);
-    if (entry != vocabulary.end()) return entry->name;
+    return entry == vocabulary.end() ? std::string_view() : entry->name;
+}
+
+}  // namespace
+
+bool hasTypeName(std::int32_t code) { return !findName(code).empty(); }
+
+std::string_view typeName(std::int32_t code) {
+    const std::string_view name = findName(code);
+    if (!name.empty()) return name;
     print("Error No Ovix Type!\n");
     exitWithStatus(brokenMetadataStatus);
 }

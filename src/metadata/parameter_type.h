@@ -32,6 +32,9 @@ inline constexpr std::int32_t listOffset = 100;
 inline constexpr std::int32_t unspecified = 10000;
 }  // namespace type_code
 
+/// Whether the vocabulary has a name for the code.
+bool hasTypeName(std::int32_t code);
+
 /// The name of a code; a list code gives the name of its element. Doubles are deliberately named
 /// "float". A code outside the vocabulary prints "Error No Ovix Type!" and a line feed on standard
 /// output and ends the process with status -1.

@@ -1,5 +1,8 @@
 #include "support/escaped_text.h"
 
+#include <algorithm>
+#include <array>
+
 namespace metagen {
 
 namespace {
@@ -18,9 +21,16 @@ char shortEscape(char byte) {
     }
 }
 
-bool isPlain(char byte) {
-    return static_cast<unsigned char>(byte) >= 0x20 && byte != '"' && byte != '\\';
-}
+/// The bytes that stand for themselves. A NUL is none of them.
+constexpr std::array<bool, 256> plainBytes = [] {
+    std::array<bool, 256> plain = {};
+    for (std::size_t code = 0x20; code < plain.size(); ++code) {
+        plain[code] = code != '"' && code != '\\';
+    }
+    return plain;
+}();
+
+bool isPlain(char byte) { return plainBytes[static_cast<unsigned char>(byte)]; }
 
 void appendEscapedByte(std::string& out, char byte) {
     constexpr char hexadecimal[] = "0123456789abcdef";
@@ -38,15 +48,14 @@ void appendEscapedByte(std::string& out, char byte) {
 }  // namespace
 
 void appendEscaped(std::string& out, std::string_view text) {
-    text = text.substr(0, text.find('\0'));
-    std::size_t begin = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (isPlain(text[i])) continue;
-        out.append(text, begin, i - begin);
-        appendEscapedByte(out, text[i]);
-        begin = i + 1;
+    auto rest = text.begin();
+    while (true) {
+        const auto special = std::find_if_not(rest, text.end(), isPlain);
+        out.append(rest, special);
+        if (special == text.end() || *special == '\0') return;
+        appendEscapedByte(out, *special);
+        rest = special + 1;
     }
-    out.append(text, begin);
 }
 
 }  // namespace metagen

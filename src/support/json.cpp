@@ -1,5 +1,6 @@
 #include "support/json.h"
 
+#include <algorithm>
 #include <cmath>
 #include <deque>
 #include <iterator>
@@ -57,6 +58,12 @@ private:
     bool& numberOverflow;
 };
 
+/// Whether the library's serialisation shows the byte of a text unescaped.
+bool isWrittenAsItIs(char byte) {
+    return static_cast<unsigned char>(byte) >= 0x20 && byte != '"' && byte != '\\' && byte != '/' &&
+           byte != '\x7f';
+}
+
 }  // namespace
 
 std::optional<Value> parse(std::string_view text) {
@@ -81,12 +88,20 @@ Value& keepToProcessEnd(Value document) {
     return kept.emplace_back(std::move(document));
 }
 
-const Value* find(const Object& object, const std::string& key) {
-    const auto member = object.find(key);
+const Value* find(const Object& object, std::string_view key) {
+    // The library looks a key up as a text of its own, which costs more than a walk along the few
+    // members that most objects have.
+    constexpr std::size_t fewMembers = 8;
+    const auto member = object.size() <= fewMembers
+                            ? std::ranges::find(object, key,
+                                                [](const auto& candidate) -> std::string_view {
+                                                    return candidate.first;
+                                                })
+                            : object.find(std::string(key));
     return member == object.end() ? nullptr : &member->second;
 }
 
-const Value& at(const Object& object, const std::string& key) {
+const Value& at(const Object& object, std::string_view key) {
     const Value* value = find(object, key);
     if (value == nullptr) throwInvalidMapKey();
     return *value;
@@ -105,6 +120,12 @@ std::string compactText(const Value& value) {
 }
 
 void appendCompactText(std::string& out, const Value& value) {
+    if (value.is<std::string>() && std::ranges::all_of(asString(value), isWrittenAsItIs)) {
+        out += '"';
+        out += asString(value);
+        out += '"';
+        return;
+    }
     value.serialize(std::back_inserter(out));
 }
 

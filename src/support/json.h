@@ -36,10 +36,10 @@ std::optional<Value> parse(std::string_view text, int& errorLine);
 Value& keepToProcessEnd(Value document);
 
 /// The member's value, or null when the object lacks it. The pointer lives as long as the object.
-const Value* find(const Object& object, const std::string& key);
+const Value* find(const Object& object, std::string_view key);
 
 /// The member's value. Throws std::out_of_range "invalid map<K, T> key" when the object lacks it.
-const Value& at(const Object& object, const std::string& key);
+const Value& at(const Object& object, std::string_view key);
 
 /// The value as an object or a text. Any other kind throws std::runtime_error with the library's
 /// text: "type mismatch! call is<type>() before get<type>()" && is<object>() (or

@@ -10,6 +10,7 @@
 
 #include "genm/table_bytes.h"
 #include "metadata/parameter_type.h"
+#include "support/exit_status.h"
 #include "support/number_text.h"
 
 namespace metagen {
@@ -395,12 +396,9 @@ TEST(TypedDefault, OtherTextureListsFallBackToTexts) {
 }
 
 TEST(TypedDefaultDeathTest, OtherTypesEndTheProcess) {
-    const auto brokenMetadata = [](int status) {
-        return testing::ExitedWithCode(255)(status) || testing::ExitedWithCode(-1)(status);
-    };
     const std::string text = "1";
     for (const std::int32_t code : {2, 102, 112, 18, 99, -1, 118, 1000, 10001}) {
-        EXPECT_EXIT(readTypedDefault(code, &text), brokenMetadata, "^$") << code;
+        EXPECT_EXIT(readTypedDefault(code, &text), isBrokenMetadata, "^$") << code;
     }
 }
 

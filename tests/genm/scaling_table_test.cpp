@@ -6,6 +6,7 @@
 
 #include "genm/meta_model.h"
 #include "genm/table_bytes.h"
+#include "support/exit_status.h"
 
 namespace metagen {
 namespace {
@@ -208,25 +209,21 @@ TEST(ScalingCondition, AnUnknownParameterThrows) {
     }
 }
 
-bool brokenMetadata(int status) {
-    return testing::ExitedWithCode(255)(status) || testing::ExitedWithCode(-1)(status);
-}
-
 TEST(ScalingConditionDeathTest, RefusesListsAndOtherTypes) {
     for (const std::string name : {"modes", "tint", "map", "exact"}) {
         EXPECT_EXIT(bytes(lightWith("{'op': 1, 'ref': '" + name + "', 'value': 1}")),
-                    brokenMetadata, "^$")
+                    isBrokenMetadata, "^$")
             << name;
-        EXPECT_EXIT(bytes(lightWith("{'op': 1, 'ref': '" + name + "'}")), brokenMetadata, "^$")
+        EXPECT_EXIT(bytes(lightWith("{'op': 1, 'ref': '" + name + "'}")), isBrokenMetadata, "^$")
             << name;
     }
 }
 
 TEST(ScalingTableDeathTest, TheTextRefusesOtherUnitsAndOperations) {
-    EXPECT_EXIT(source(light("{'unit': 2}")), brokenMetadata, "^$");
-    EXPECT_EXIT(source(light("{'unit': -1}")), brokenMetadata, "^$");
-    EXPECT_EXIT(source(lightWith("{'op': 2, 'ref': 'mode', 'value': 1}")), brokenMetadata, "^$");
-    EXPECT_EXIT(source(lightWith("{'ref': 'mode', 'value': 1}")), brokenMetadata, "^$");
+    EXPECT_EXIT(source(light("{'unit': 2}")), isBrokenMetadata, "^$");
+    EXPECT_EXIT(source(light("{'unit': -1}")), isBrokenMetadata, "^$");
+    EXPECT_EXIT(source(lightWith("{'op': 2, 'ref': 'mode', 'value': 1}")), isBrokenMetadata, "^$");
+    EXPECT_EXIT(source(lightWith("{'ref': 'mode', 'value': 1}")), isBrokenMetadata, "^$");
 }
 
 }  // namespace

@@ -2,25 +2,72 @@
 
 #include <gtest/gtest.h>
 
+#include "support/exit_status.h"
+
 namespace metagen {
 namespace {
 
 std::string parameter(bool isList, std::int32_t code, TaggedValue value) {
     std::string out;
-    appendParameter(out, {.isList = isList, .code = code, .defaultValue = std::move(value)});
+    std::string buffer = "left over";
+    appendParameter(
+        out, describe({.isList = isList, .code = code, .defaultValue = std::move(value)}, buffer));
     return out;
+}
+
+PluginRecord plugin(const char* parameterName, std::int32_t code) {
+    return {
+        .category = {},
+        .parameters = {{.name = parameterName,
+                        .record = {.code = code, .defaultValue = {.tag = 3, .payload = true}}}}};
 }
 
 TaggedValue text(const char* content) { return {.tag = 9, .payload = std::string(content)}; }
 
-TEST(BaseDocument, OfNothing) { EXPECT_EQ(baseDocument({}), "{\"plugins\":{}}"); }
+TEST(BaseDocument, OfNothing) { EXPECT_EQ(BaseDocument().text(), "{\"plugins\":{}}"); }
 
 TEST(BaseDocument, NamesStandUnescaped) {
-    LiveMetadata metadata;
-    metadata["A\"\\"].parameters["p\""] = {.code = 3, .defaultValue = {.tag = 3, .payload = true}};
-    EXPECT_EQ(baseDocument(metadata),
+    BaseDocument document;
+    document.add("A\"\\", plugin("p\"", 3));
+    EXPECT_EQ(document.text(),
               "{\"plugins\":{\"A\"\\\":{\"type\":null,\"params\":{\"p\"\":"
               "{\"type\":\"bool\",\"defaultValue\":\"1\"}}}}}");
+}
+
+TEST(BaseDocument, ClassesAreOrderedAndTheFirstOfEqualOnesStays) {
+    BaseDocument document;
+    document.add("b", {});
+    document.add("A_c", {.category = "light", .parameters = {}});
+    document.add("a.C", plugin("dropped", 3));
+    EXPECT_EQ(document.text(), R"({"plugins":{"A_c":{"type":"light","params":{}},)"
+                               R"("b":{"type":null,"params":{}}}})");
+}
+
+TEST(BaseDocument, IsTheSameInAFile) {
+    BaseDocument document;
+    document.add("b", plugin("p", 3));
+    document.add("a", {});
+    std::FILE* file = std::tmpfile();
+    ASSERT_NE(file, nullptr);
+    document.write(file);
+    std::rewind(file);
+    char bytes[200] = {};
+    const std::size_t count = std::fread(bytes, 1, sizeof bytes, file);
+    EXPECT_EQ(std::fclose(file), 0);
+    EXPECT_EQ(std::string_view(bytes, count), document.text());
+}
+
+TEST(BaseDocument, ATypeWithoutNameCountsOnlyInAClassThatIsKept) {
+    BaseDocument document;
+    document.add("a", {});
+    document.add("A", plugin("p", 50));
+    EXPECT_EQ(document.text(), R"({"plugins":{"a":{"type":null,"params":{}}}})");
+}
+
+TEST(BaseDocumentDeathTest, ATypeWithoutNameEndsTheProcessWhenTheTextIsMade) {
+    BaseDocument document;
+    document.add("a", plugin("p", 50));
+    EXPECT_EXIT(static_cast<void>(document.text()), isBrokenMetadata, "");
 }
 
 TEST(BaseDocumentParameter, TheDefaultTextIsEscaped) {

@@ -26,7 +26,7 @@ FakeParameter integer(const char* name, std::int32_t number) {
 std::string documentOf(FakeSdk& sdk, std::vector<FakeClass> classes) {
     sdk.classes = std::move(classes);
     const Renderer renderer;
-    return baseDocument(buildLiveMetadata(renderer));
+    return readBaseDocument(renderer).text();
 }
 
 std::string documentOf(std::vector<FakeClass> classes) {
@@ -83,6 +83,19 @@ TEST(LiveMetadata, SomeTypeCodesAreNotRecordedAndKeepNoName) {
               R"("X":{"type":"integer","defaultValue":"5"}}}}})");
     EXPECT_EQ(std::ranges::count(sdk.calls, "gpuSupport x"), 7);
     EXPECT_EQ(std::ranges::count(sdk.calls, "default x"), 0);
+}
+
+TEST(LiveMetadata, AnEqualNameIsAskedAboutUntilOneIsRecorded) {
+    FakeParameter unrecorded = integer("a_b", 1);
+    unrecorded.code = 1000;
+    FakeSdk sdk;
+    EXPECT_EQ(documentOf(sdk, {{.name = "A",
+                                .parameters = {unrecorded, integer("A.b", 2), integer("a.B", 3),
+                                               integer("a", 4)}}}),
+              R"({"plugins":{"A":{"type":null,"params":{)"
+              R"("a":{"type":"integer","defaultValue":"4"},)"
+              R"("A.b":{"type":"integer","defaultValue":"2"}}}}})");
+    EXPECT_EQ(std::ranges::count(sdk.calls, "definition a.B"), 0);
 }
 
 TEST(LiveMetadata, QueriesGoByTheTypeText) {

@@ -3,7 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <bit>
+#include <cmath>
+#include <cstdio>
 #include <limits>
+#include <random>
 
 namespace metagen {
 namespace {
@@ -31,6 +35,35 @@ TEST(GeneralNumber, SixSignificantDigitsInTheShortestForm) {
     EXPECT_EQ(general(999999.5), "1e+06");
     EXPECT_EQ(general(-2.0 / 3.0), "-0.666667");
     EXPECT_EQ(general(1e300), "1e+300");
+}
+
+TEST(GeneralNumber, RoundsTiesToEven) {
+    EXPECT_EQ(general(100000.5), "100000");
+    EXPECT_EQ(general(100001.5), "100002");
+    EXPECT_EQ(general(-250000.5), "-250000");
+    EXPECT_EQ(general(0.5000005), "0.5");  // a little less than a tie, as a double
+    EXPECT_EQ(general(8388.6075), "8388.61");
+    EXPECT_EQ(general(3.0517578125e-05), "3.05176e-05");
+    EXPECT_EQ(general(0.000244140625), "0.000244141");
+    EXPECT_EQ(general(2.000005), "2");
+    EXPECT_EQ(general(99999.96875), "100000");
+    EXPECT_EQ(general(999999.4375), "999999");
+    EXPECT_EQ(general(0.0999999940395355224609375), "0.1");
+    EXPECT_EQ(general(0.000099999997), "0.0001");
+}
+
+TEST(GeneralNumber, IsTheTextOfTheStandardLibrary) {
+    std::mt19937 random(1);
+    for (int sample = 0; sample < 200'000; ++sample) {
+        // Every sign and exponent of a float, and mantissas with many and with few bits.
+        auto bits = static_cast<std::uint32_t>(random());
+        if (sample % 2 == 0) bits &= ~0U << random() % 24;
+        const auto number = static_cast<double>(std::bit_cast<float>(bits));
+        if (std::isnan(number)) continue;
+        char expected[32];
+        std::snprintf(expected, sizeof expected, "%g", number);
+        ASSERT_EQ(general(number), expected) << std::hex << bits;
+    }
 }
 
 TEST(GeneralNumber, ZeroKeepsItsSign) {
