@@ -11,10 +11,8 @@ const char* malloc_conf = "narenas:1,oversize_threshold:0,dirty_decay_ms:-1,muzz
 
 namespace {
 
-/// From here on memory comes in huge pages. The allocator asks for twice as much each time, so that
-/// a run with a small document never comes this far: clearing huge pages would take it longer than
-/// all the rest.
-constexpr std::size_t smallestHuge = std::size_t{8} << 20U;
+/// The allocator asks for a little more memory each time, up to this.
+constexpr std::size_t largestStep = std::size_t{8} << 20U;
 
 extent_hooks_t* standardHooks = nullptr;
 
@@ -22,27 +20,36 @@ void* allocateExtent(extent_hooks_t* /*hooks*/, void* address, std::size_t size,
                      std::size_t alignment, bool* zero, bool* commit, unsigned arena) {
     void* extent =
         standardHooks->alloc(standardHooks, address, size, alignment, zero, commit, arena);
-    // Page faults would take half the time that parsing takes. Without huge pages it is only
-    // slower.
-    if (extent != nullptr && size >= smallestHuge) {
-        static_cast<void>(madvise(extent, size, MADV_HUGEPAGE));
+    // A large tree fills all of it. To have its pages made at once costs half of what it costs to
+    // be interrupted for each. A system that can't do that makes them one by one.
+    if (extent != nullptr && size == largestStep) {
+        static_cast<void>(madvise(extent, size, MADV_POPULATE_WRITE));
     }
     return extent;
 }
 
-bool preferHugePages() {
-    constexpr const char* setting = "arena.0.extent_hooks";
+/// The place of a setting's value, as the allocator wants it.
+template <typename Value>
+void* placeOf(Value& value) {
+    return static_cast<void*>(&value);
+}
+
+bool makePagesInSteps() {
     constexpr std::size_t pointerSize = sizeof(void*);
     static extent_hooks_t hooks;
     std::size_t size = pointerSize;
-    if (mallctl(setting, static_cast<void*>(&standardHooks), &size, nullptr, 0) != 0) return false;
+    if (mallctl("arena.0.extent_hooks", placeOf(standardHooks), &size, nullptr, 0) != 0)
+        return false;
     hooks = *standardHooks;
     hooks.alloc = allocateExtent;
     extent_hooks_t* replacement = &hooks;
-    return mallctl(setting, nullptr, nullptr, static_cast<void*>(&replacement), pointerSize) == 0;
+    std::size_t step = largestStep;
+    return mallctl("arena.0.extent_hooks", nullptr, nullptr, placeOf(replacement), pointerSize) ==
+               0 &&
+           mallctl("arena.0.retain_grow_limit", nullptr, nullptr, placeOf(step), sizeof step) == 0;
 }
 
-/// Before the first command, so that the hooks see every large extent.
-const bool prefersHugePages = preferHugePages();
+/// Before the first command, so that every large step is seen.
+const bool makesPagesInSteps = makePagesInSteps();
 
 }  // namespace

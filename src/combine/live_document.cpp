@@ -5,16 +5,16 @@
 
 #include "metadata/parameter_description.h"
 #include "metadata/parameter_type.h"
+#include "support/byte_set.h"
 
 namespace metagen {
 
 namespace {
 
-bool standsForItself(std::string_view name) {
-    return std::ranges::all_of(name, [](char byte) {
-        return static_cast<unsigned char>(byte) >= 0x20 && byte != '"' && byte != '\\';
-    });
-}
+/// What a name may consist of to mean the same within the quotes of a JSON text.
+constexpr ByteSet standsForItself([](unsigned char byte) {
+    return byte >= 0x20 && byte != '"' && byte != '\\';
+});
 
 json::Value text(std::string_view content) { return json::Value(std::string(content)); }
 
@@ -45,9 +45,9 @@ json::Value pluginValue(PluginRecord plugin, std::string& buffer) {
 
 void LiveDocument::add(std::string className, PluginRecord plugin) {
     if (names.contains(className)) return;
-    faithful = faithful && standsForItself(className);
+    faithful = faithful && std::ranges::all_of(className, standsForItself);
     for (const auto& [name, parameter] : plugin.parameters) {
-        faithful = faithful && standsForItself(name);
+        faithful = faithful && std::ranges::all_of(name, standsForItself);
         if (!hasTypeName(parameter.code)) namelessCode = parameter.code;
     }
     if (namelessCode) plugin.parameters.clear();  // the document will not be finished

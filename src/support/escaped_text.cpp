@@ -1,7 +1,8 @@
 #include "support/escaped_text.h"
 
 #include <algorithm>
-#include <array>
+
+#include "support/byte_set.h"
 
 namespace metagen {
 
@@ -22,15 +23,9 @@ char shortEscape(char byte) {
 }
 
 /// The bytes that stand for themselves. A NUL is none of them.
-constexpr std::array<bool, 256> plainBytes = [] {
-    std::array<bool, 256> plain = {};
-    for (std::size_t code = 0x20; code < plain.size(); ++code) {
-        plain[code] = code != '"' && code != '\\';
-    }
-    return plain;
-}();
-
-bool isPlain(char byte) { return plainBytes[static_cast<unsigned char>(byte)]; }
+constexpr ByteSet plainBytes([](unsigned char byte) {
+    return byte >= 0x20 && byte != '"' && byte != '\\';
+});
 
 void appendEscapedByte(std::string& out, char byte) {
     constexpr char hexadecimal[] = "0123456789abcdef";
@@ -50,7 +45,7 @@ void appendEscapedByte(std::string& out, char byte) {
 void appendEscaped(std::string& out, std::string_view text) {
     auto rest = text.begin();
     while (true) {
-        const auto special = std::find_if_not(rest, text.end(), isPlain);
+        const auto special = std::find_if_not(rest, text.end(), plainBytes);
         out.append(rest, special);
         if (special == text.end() || *special == '\0') return;
         appendEscapedByte(out, *special);

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <utility>
 
+#include "support/byte_set.h"
 #include "support/json_input.h"
 #include "support/standard_errors.h"
 
@@ -58,10 +59,25 @@ private:
     bool& numberOverflow;
 };
 
-/// Whether the library's serialisation shows the byte of a text unescaped.
-bool isWrittenAsItIs(char byte) {
-    return static_cast<unsigned char>(byte) >= 0x20 && byte != '"' && byte != '\\' && byte != '/' &&
-           byte != '\x7f';
+/// What the library's serialisation shows unescaped.
+constexpr ByteSet unescaped([](unsigned char byte) {
+    return byte >= 0x20 && byte != '"' && byte != '\\' && byte != '/' && byte != 0x7F;
+});
+
+/// The library's serialisation of a text, in runs of bytes that need no escape.
+void appendText(std::string& out, const std::string& text) {
+    picojson::serialize_str_char<std::back_insert_iterator<std::string>> appendByte = {
+        std::back_inserter(out)};
+    out += '"';
+    auto rest = text.begin();
+    while (true) {
+        const auto special = std::find_if_not(rest, text.end(), unescaped);
+        out.append(rest, special);
+        if (special == text.end()) break;
+        appendByte(*special);
+        rest = special + 1;
+    }
+    out += '"';
 }
 
 }  // namespace
@@ -120,12 +136,7 @@ std::string compactText(const Value& value) {
 }
 
 void appendCompactText(std::string& out, const Value& value) {
-    if (value.is<std::string>() && std::ranges::all_of(asString(value), isWrittenAsItIs)) {
-        out += '"';
-        out += asString(value);
-        out += '"';
-        return;
-    }
+    if (value.is<std::string>()) return appendText(out, asString(value));
     value.serialize(std::back_inserter(out));
 }
 

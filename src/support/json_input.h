@@ -4,11 +4,12 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <string>
 #include <string_view>
 
 #include <picojson.h>
+
+#include "support/byte_set.h"
 
 namespace metagen::json {
 
@@ -63,7 +64,7 @@ public:
     /// backslash or a control character.
     std::string_view takePlain() {
         const char* const start = position;
-        while (position != end && isPlain(*position)) ++position;
+        position = std::find_if_not(position, end, isPlain);
         previous = position;
         return {start, static_cast<std::size_t>(position - start)};
     }
@@ -73,16 +74,9 @@ private:
         return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
     }
 
-    static bool isPlain(char byte) { return plainBytes[static_cast<unsigned char>(byte)]; }
-
     /// The bytes that stand for themselves within a string.
-    static constexpr std::array<bool, 256> plainBytes = [] {
-        std::array<bool, 256> plain = {};
-        for (std::size_t code = 0x20; code < plain.size(); ++code) {
-            plain[code] = code != '"' && code != '\\';
-        }
-        return plain;
-    }();
+    static constexpr metagen::ByteSet isPlain{
+        [](unsigned char byte) { return byte >= 0x20 && byte != '"' && byte != '\\'; }};
 
     const char* begin;
     const char* position;
