@@ -146,6 +146,12 @@ WRONG = [
     ("stripped", "plugins/A/userData/u", {"defaultValue": "1"}, f"{_A}.userData.u"),
     ("stripped", "plugins/A/userData/color_tex", {"type": "Texture"},
      f"{_A}.userData.color_tex.type"),
+    ("stripped", "plugins/A/userData/color_color/defaultValue", "Color(1, 1)",
+     f"{_A}.userData.color_color.defaultValue"),
+    ("stripped", "plugins/A/userData/color_color/defaultValue", "red",
+     f"{_A}.userData.color_color.defaultValue"),
+    ("stripped", "plugins/A/userData/u", {"type": "acolor", "defaultValue": "AColor(1, 1, 1, x)"},
+     f"{_A}.userData.u.defaultValue"),
     ("stripped", "plugins/A/userData/texture_multiplier_mode", 0,
      f"{_A}.userData.texture_multiplier_mode"),
 
