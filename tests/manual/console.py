@@ -107,6 +107,7 @@ def run_example(example, folder, environment):
 
 
 def example_environment(build, tools):
-    """The environment in which the examples run: the built metagen and the replay SDK."""
-    return {"PATH": f"{build}:{tools}:{os.environ['PATH']}", "LANG": "C.UTF-8",
+    """The environment in which the examples run: the built metagen and the replay SDK, and else the
+    system's own programs, whatever stands before them on the path."""
+    return {"PATH": f"{build}:{tools}:/usr/bin:{os.environ['PATH']}", "LANG": "C.UTF-8",
             "HOME": "/nonexistent", "QYRA_SDK": str(build / "sdk")}
