@@ -48,6 +48,12 @@ async function marked(text) {
   return findings.map((finding) => document.getText(finding.range));
 }
 
+/** What is said of the texts that are marked. */
+async function said(text) {
+  const { document, parsed } = open(text);
+  return (await service.doValidation(document, parsed)).map((finding) => finding.message);
+}
+
 const inPlugin = (text) => `{"plugins": {"A": {${text}}}}`;
 const inParameter = (text) => inPlugin(`"params": {"p": {${text}}}`);
 
@@ -90,6 +96,25 @@ test("mistakes are marked where they stand", async () => {
     await marked(inParameter('"type": "color", "defaultValue": "Color(1, 1)"')), ['"Color(1, 1)"']);
   assert.deepStrictEqual(await marked(inParameter('"scaling": {"unit": 2}')), ["2"]);
   assert.deepStrictEqual(await marked('{"plugins": {"A": null, "B": 1}}'), ["1"]);
+});
+
+test("what a default has to look like is said in words", async () => {
+  const needed = {
+    integer: /^An integer is needed/, bool: /^An integer is needed/,
+    float: /^A number is needed/, "float texture": /^A number is needed/,
+    vector: /^Three numbers are needed/, color: /^Three numbers are needed/,
+    acolor: /^Four numbers are needed/, matrix: /^Three vectors are needed/,
+    transform: /^A matrix and a vector are needed/,
+  };
+  for (const [type, message] of Object.entries(needed)) {
+    const [first, ...others] = await said(
+      inParameter(`"type": "${type}", "defaultValue": "wrong"`));
+    assert.match(first, message);
+    assert.deepStrictEqual(others, []);
+  }
+  const [colour] = await said(
+    inPlugin('"userData": {"x_color": {"type": "acolor", "defaultValue": "red"}}'));
+  assert.match(colour, /^A colour is needed, or one number for a grey/);
 });
 
 test("nothing is marked in the example", async () => {
