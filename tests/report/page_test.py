@@ -93,7 +93,7 @@ class PageTest(unittest.TestCase):
         return page
 
     def open(self, page):
-        """Opens a page, which must be silent and load nothing; gives the seconds taken."""
+        """Opens a page, which must be silent and load nothing; gives the seconds of work."""
         seconds = self.browser.open(page)
         self.assertEqual([], self.browser.complaints())
         self.assertEqual([page.resolve().as_uri()], self.browser.requests())
@@ -110,14 +110,16 @@ class PageTest(unittest.TestCase):
         return self.browser.type(text)
 
     def refilter(self, text):
-        """Filters everything by another text; gives the seconds until the page shows it."""
+        """Filters everything by another text; gives the seconds of work until the page
+        shows it."""
         self.browser.evaluate("document.getElementById('filter').select()")
         return self.filter(text)
 
     def assert_quick(self, action):
-        """The action takes less than a second. The best of some tries counts, since the machine
-        may be busy with other things."""
+        """The action is less than a second's work. The best of some tries counts, since a busy
+        machine slows its processors' every step."""
         seconds = min(action() for _ in range(5))
+        self.assertGreater(seconds, 0)
         self.assertLess(seconds, 1)
 
     def test_it_shows_what_the_documents_hold_and_runs_nothing_of_it(self):
@@ -135,7 +137,7 @@ class PageTest(unittest.TestCase):
         self.open(self.make_page(LEFT, RIGHT))
         self.assertEqual("img-src", self.browser.evaluate("""new Promise(done => {
             addEventListener("securitypolicyviolation", event => done(event.effectiveDirective));
-            setTimeout(() => done("loaded"), 5000);
+            setTimeout(() => done("loaded"), 60000);
             new Image().src = "page.png";
         })"""))
 
