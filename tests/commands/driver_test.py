@@ -143,7 +143,34 @@ class Dispatch(CommandTest):
         self.assert_fails("Could not open input file", "genm", "-i", "in.json", "-o", "code")
 
 
+# What each command can't open when no input is there, and when its inputs are but the folder of its
+# output isn't. No two commands fail alike on both.
+UNOPENED = {
+    "combine": ("Could not open the file - in.json", "Failed to open the output"),
+    "diff": ("Could not open left file", "Could not open output file"),
+    "dump": ("Could not open file", "Could not open file"),
+    "genh": ("Could not open the file - in.json", "Could not open the INL output file"),
+    "genm": ("Could not open input file", "Could not open the INL output file"),
+}
+
+
 class CommandWords(CommandTest):
+    def test_each_runs_its_command_in_any_case(self):
+        for word, messages in UNOPENED.items():
+            for spelling in (word, word.upper(), word.title(), word[:1] + word[1:].upper()):
+                with self.subTest(word=spelling):
+                    self.assert_fails_to_open(messages, spelling)
+
+    def assert_fails_to_open(self, messages, word):
+        files = ["in.json", "left.json", "right.json"]
+        for message in messages:
+            self.assert_run([word, "-i", files[0], "-l", files[1], "-r", files[2],
+                             "-o", "missing/out"], status=FAILURE, stderr=message)
+            for name in files:
+                self.write(name, "{}")
+        for name in files:
+            (self.folder / name).unlink()
+
     def test_case_does_not_matter(self):
         for word in ("dump", "DuMp", "DUMP", "Dump"):
             with self.subTest(word=word):
