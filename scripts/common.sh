@@ -41,9 +41,11 @@ ensure_packages() {
         return 1
     fi
     printf 'Installing %s\n' "${missing[*]}"
-    quietly apt-update "${as_root[@]}" apt-get update || return
+    # A source of packages that can't be reached may well be one that none of these comes from.
+    quietly apt-update "${as_root[@]}" apt-get -o Acquire::Retries=3 update || true
     quietly apt-install "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install --yes --no-install-recommends "${missing[@]}"
+        apt-get -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 \
+        install --yes --no-install-recommends "${missing[@]}"
 }
 
 # configure <preset>: with the system's Python, whatever else stands on the path.
