@@ -209,7 +209,7 @@ class ClosedStreams(MachineTest):
                 os.close(number)
 
         finished = subprocess.run(
-            [str(BINARY), *arguments], cwd=self.folder, preexec_fn=close, check=False, timeout=60,
+            [str(BINARY), *arguments], cwd=self.folder, preexec_fn=close, check=False, timeout=300,
             env=environment_of_run({"QYRA_SDK": REPLAY_SDK,
                                     "QYRA_REPLAY_CATALOGUE": self.catalogue}), **options)
         return finished.returncode

@@ -44,7 +44,7 @@ else:
     _NOT_FOUND = "The specified module could not be found."
 LOAD_FAILURE = f"Cannot load Qyra SDK Library file. [{_NOT_FOUND}]\n"
 
-RUN_SECONDS = 120
+RUN_SECONDS = 300
 
 USAGE = """\
  Usage:

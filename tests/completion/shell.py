@@ -9,7 +9,7 @@ import time
 
 COMPLETIONS = pathlib.Path(__file__).resolve().parents[2] / "completions"
 
-_WAIT_SECONDS = 30
+_WAIT_SECONDS = 120
 
 # Control-T shows the line as it stands, between marks. The marks are put together by the shell, so
 # that the echo of these lines doesn't look like an answer.

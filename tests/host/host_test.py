@@ -34,7 +34,7 @@ class HostTest(unittest.TestCase):
         finished = subprocess.run(
             [*LAUNCHER, os.environ[f"{host}_HOST"], *arguments], cwd=self.folder,
             env=environment_of_run({}), stdin=subprocess.DEVNULL, capture_output=True,
-            timeout=120, check=False)
+            timeout=300, check=False)
         texts = [output.decode("utf-8").replace("\r\n", "\n")
                  for output in (finished.stdout, finished.stderr)]
         return finished.returncode, *texts

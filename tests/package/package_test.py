@@ -49,7 +49,7 @@ class Package(unittest.TestCase):
         """Runs CMake and gives what it printed."""
         finished = subprocess.run([CMAKE, *map(str, arguments)], env=environment(), text=True,
                                   stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                                  stderr=subprocess.STDOUT, timeout=280, check=False)
+                                  stderr=subprocess.STDOUT, timeout=800, check=False)
         if (finished.returncode != 0) != fails:
             raise AssertionError(f"{finished.returncode}: {finished.stdout}")
         return finished.stdout
@@ -68,7 +68,7 @@ class Package(unittest.TestCase):
         host = self.build_folder / ("example_host" + BINARY.suffix)
         finished = subprocess.run(
             [*LAUNCHER, str(host), "handlers.bin", "meta.bin"], cwd=self.tables(),
-            env=environment(), capture_output=True, text=True, timeout=120, check=False)
+            env=environment(), capture_output=True, text=True, timeout=300, check=False)
         self.assertEqual((0, ""), (finished.returncode, finished.stderr), finished.stdout)
         self.assertEqual(AGREE, finished.stdout.splitlines()[-1])
 
