@@ -76,10 +76,11 @@ class CleanRoot:
             shutil.copy(f"/etc/{name}", self.folder / "etc")
         for folder in ("dev", "proc", "tmp", "root", "var/log"):
             (self.folder / folder).mkdir(parents=True, exist_ok=True)
-        if os.geteuid() == 0:
-            os.mknod(self.folder / "dev/null", 0o20666, os.makedev(1, 3))
-        else:
-            (self.folder / "dev/null").touch()
+        null = self.folder / "dev/null"
+        try:
+            os.mknod(null, 0o20666, os.makedev(1, 3))
+        except PermissionError:  # no superuser, or one without this right; a file does as well
+            null.touch()
         return self
 
     def __exit__(self, *_):
@@ -89,15 +90,19 @@ class CleanRoot:
         listed = subprocess.run(["dpkg-query", "--listfiles", *self.packages], text=True,
                                 capture_output=True, check=True).stdout.splitlines()
         # What was diverted or left out at its installation isn't there.
-        present = [path for path in listed if path.startswith("/") and os.path.lexists(path)]
+        present = {path for path in listed if path.startswith("/") and os.path.lexists(path)}
+        # A few folders are the superuser's alone. What they hold is of no package.
+        closed = {path for path in present if os.path.isdir(path) and not os.access(path, os.R_OK)}
         # Hard links are stored relative to the root, as everything is.
-        names = "\0".join(path[1:] for path in sorted(set(present)))
+        names = "\0".join(path[1:] for path in sorted(present - closed))
         with tempfile.TemporaryFile() as archive:
             subprocess.run(["tar", "--create", "--directory=/", "--no-recursion", "--null",
                             "--files-from=-"], input=names.encode(), stdout=archive, check=True)
             archive.seek(0)
             subprocess.run(["tar", "--extract", "--keep-directory-symlink",
                             f"--directory={self.folder}"], stdin=archive, check=True)
+        for path in closed:
+            (self.folder / path[1:]).mkdir(parents=True, exist_ok=True)
 
     def _copy_database(self):
         database = self.folder / _DPKG.relative_to("/")
