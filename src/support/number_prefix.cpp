@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <optional>
 #include <system_error>
 
 namespace metagen {
@@ -43,13 +44,15 @@ bool isTooLarge(std::string_view number, bool hexadecimal) {
     return std::clamp(exponent, -farthest, farthest) + places * (hexadecimal ? 4 : 1) > 0;
 }
 
-double readMagnitude(std::string_view text) {
+/// Nothing when the text does not begin with a number.
+std::optional<double> readMagnitude(std::string_view text) {
     const bool hexadecimal = startsHexadecimal(text);
     if (hexadecimal) text.remove_prefix(2);
     const auto format = hexadecimal ? std::chars_format::hex : std::chars_format::general;
     double number = 0;
     const char* const end = text.data() + text.size();
     const std::from_chars_result result = std::from_chars(text.data(), end, number, format);
+    if (result.ec == std::errc::invalid_argument) return std::nullopt;
     if (result.ec != std::errc::result_out_of_range) return number;
     text.remove_suffix(static_cast<std::size_t>(end - result.ptr));
     return isTooLarge(text, hexadecimal) ? std::numeric_limits<double>::infinity() : 0;
@@ -75,8 +78,9 @@ std::int64_t readIntegerPrefix(std::string_view text) {
 double readDoublePrefix(std::string_view text) {
     const auto [negative, magnitude] = splitSign(text);
     if (magnitude.starts_with('-')) return 0;  // a second sign, which from_chars would take
-    const double number = readMagnitude(magnitude);
-    return negative ? -number : number;
+    const std::optional<double> number = readMagnitude(magnitude);
+    if (!number) return 0;  // whatever the sign
+    return negative ? -*number : *number;
 }
 
 }  // namespace metagen

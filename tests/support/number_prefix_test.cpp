@@ -54,6 +54,13 @@ TEST(ReadDoublePrefix, TakesOneSign) {
     EXPECT_EQ(readDoublePrefix("+-2.5"), 0);
     EXPECT_EQ(readDoublePrefix("--2.5"), 0);
     EXPECT_TRUE(std::signbit(readDoublePrefix("-0")));
+    EXPECT_TRUE(std::signbit(readDoublePrefix("-1e-400")));
+}
+
+TEST(ReadDoublePrefix, TakesNoSignWithoutANumber) {
+    for (const char* text : {"-", "-.", "-abc", "-)", "- 1", "--1"}) {
+        EXPECT_FALSE(std::signbit(readDoublePrefix(text))) << text;
+    }
 }
 
 TEST(ReadDoublePrefix, IsZeroWithoutANumber) {
