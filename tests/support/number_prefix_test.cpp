@@ -13,6 +13,14 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
 constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
 
+TEST(IsBlank, IsTrueForTheSixBlanksOnly) {
+    const std::string blanks = " \t\n\v\f\r";
+    for (int code = 0; code < 256; ++code) {
+        const char byte = static_cast<char>(code);
+        EXPECT_EQ(isBlank(byte), blanks.find(byte) != std::string::npos) << code;
+    }
+}
+
 TEST(ReadIntegerPrefix, SkipsBlanksAndIgnoresWhatFollows) {
     EXPECT_EQ(readIntegerPrefix(" \t\n\v\f\r12abc"), 12);
     EXPECT_EQ(readIntegerPrefix("2.7"), 2);
@@ -72,6 +80,8 @@ TEST(ReadDoublePrefix, IsZeroWithoutANumber) {
 TEST(ReadDoublePrefix, ReadsHexadecimalNumbers) {
     EXPECT_EQ(readDoublePrefix("0x1.8p3"), 12);
     EXPECT_EQ(readDoublePrefix("-0XfF"), -255);
+    EXPECT_EQ(readDoublePrefix("0xA"), 10);
+    EXPECT_EQ(readDoublePrefix("0x.F"), 0.9375);
     EXPECT_EQ(readDoublePrefix("0x.8"), 0.5);
     EXPECT_EQ(readDoublePrefix("0x1p"), 1);
 }
@@ -94,7 +104,12 @@ TEST(ReadDoublePrefix, IsAnInfinityForTooLargeNumbers) {
     EXPECT_EQ(readDoublePrefix("-1e999999999999999999999"), -infinity);
     EXPECT_EQ(readDoublePrefix("1" + std::string(400, '0')), infinity);
     EXPECT_EQ(readDoublePrefix("0." + std::string(400, '0') + "1e+1000"), infinity);
+    EXPECT_EQ(readDoublePrefix("1E309"), infinity);
+    EXPECT_EQ(readDoublePrefix("0." + std::string(5000, '0') + "1e+10000"), infinity);
     EXPECT_EQ(readDoublePrefix("0x1p+5000"), infinity);
+    EXPECT_EQ(readDoublePrefix("0x1P+5000"), infinity);
+    // A hexadecimal place is four binary ones: 2^(4 * 1000 - 2500).
+    EXPECT_EQ(readDoublePrefix("0x1" + std::string(1000, '0') + "p-2500"), infinity);
 }
 
 TEST(ReadDoublePrefix, IsZeroForTooSmallNumbers) {
@@ -102,7 +117,16 @@ TEST(ReadDoublePrefix, IsZeroForTooSmallNumbers) {
     EXPECT_EQ(readDoublePrefix("1e-999999999999999999999"), 0);
     EXPECT_EQ(readDoublePrefix("0." + std::string(400, '0') + "1"), 0);
     EXPECT_EQ(readDoublePrefix("1" + std::string(400, '0') + "e-1000"), 0);
+    EXPECT_EQ(readDoublePrefix("1E-400"), 0);
+    EXPECT_EQ(readDoublePrefix("0." + std::string(400, '0') + "1e50"), 0);
     EXPECT_EQ(readDoublePrefix("0x1p-5000"), 0);
+    EXPECT_EQ(readDoublePrefix("0x1P-5000"), 0);
+    EXPECT_EQ(readDoublePrefix("0x0." + std::string(1000, '0') + "1p+2500"), 0);
+}
+
+TEST(ReadDoublePrefix, TakesTheSizeOfANumberFromNothingBehindIt) {
+    EXPECT_EQ(readDoublePrefix("1" + std::string(400, '0') + ", 1e-999"), infinity);
+    EXPECT_EQ(readDoublePrefix("0." + std::string(400, '0') + "1, 1e+999"), 0);
 }
 
 }  // namespace
