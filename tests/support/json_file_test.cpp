@@ -18,10 +18,9 @@ protected:
     std::string parsed(const std::string& text) const {
         writeAll(openForWriting(path.c_str()).get(), text);
         return compactText(
-            parseFileOrExit(openForReading(path.c_str()), "unreadable", "malformed %s"));
+            parseFileOrExit(openForReading(path.c_str()), "unreadable %s", "malformed %s"));
     }
 
-private:
     std::string path = testing::TempDir() + "metagen_json_file_test_" +
                        testing::UnitTest::GetInstance()->current_test_info()->name() + ".json";
 };
@@ -33,6 +32,25 @@ TEST_F(ParseFileOrExit, GivesTheDocument) { EXPECT_EQ(parsed(" {\"a\": 1}\n"), "
 TEST_F(ParseFileOrExitDeathTest, EndsTheProcessForABrokenDocument) {
     EXPECT_EXIT(parsed("{"), testing::ExitedWithCode(1), "^malformed %s$");
     EXPECT_EXIT(parsed(""), testing::ExitedWithCode(1), "^malformed %s$");
+}
+
+TEST_F(ParseFileOrExitDeathTest, EndsTheProcessForAFileThatCanNotBeRead) {
+    // Opened for writing only.
+    EXPECT_EXIT(parseFileOrExit(openForWriting(path.c_str()), "unreadable %s", "malformed %s"),
+                testing::ExitedWithCode(1), "^unreadable %s$");
+}
+
+TEST(ObjectOrExit, GivesTheObject) {
+    const Value object{Object()};
+    EXPECT_EQ(&objectOrExit(object, "no object"), &asObject(object));
+}
+
+TEST(ObjectOrExitDeathTest, EndsTheProcessForAnyOtherKind) {
+    for (const char* text : {"[{}]", "null", "1", "\"{}\""}) {
+        EXPECT_EXIT(objectOrExit(*parse(text), "no object %s"), testing::ExitedWithCode(1),
+                    "^no object %s$")
+            << text;
+    }
 }
 
 }  // namespace

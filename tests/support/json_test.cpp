@@ -37,6 +37,11 @@ TEST(JsonParse, ReadsEveryKindOfValue) {
 
 TEST(JsonParse, IgnoresTextAfterTheValue) { EXPECT_EQ(reserialised("{} x"), "{}"); }
 
+TEST(JsonParse, KeepsEveryByteOfAText) {
+    EXPECT_EQ(reserialised(R"(["a\u0000b"])"), R"(["a\u0000b"])");
+    EXPECT_EQ(reserialised("\" \x7f\""), "\" \\u007f\"");
+}
+
 TEST(JsonParse, KeepsTheLastOfEqualMembers) {
     EXPECT_EQ(reserialised(R"({"a":1,"a":2})"), R"({"a":2})");
 }
@@ -44,7 +49,8 @@ TEST(JsonParse, KeepsTheLastOfEqualMembers) {
 TEST(JsonParse, RefusesAByteOrderMark) { EXPECT_EQ(reserialised("\xef\xbb\xbf{}"), "refused"); }
 
 TEST(JsonParse, RefusesBrokenText) {
-    for (const char* text : {"", "   ", "{", "[1,]", "{\"a\" 1}", "nul", "\"a", "'a'", "-", "+1"}) {
+    for (const char* text : {"", "   ", "{", "[1,]", "{\"a\" 1}", "nul", "\"a", "'a'", "-", "+1",
+                             "\f{}", "[\v1]", "\"\x1f\""}) {
         EXPECT_EQ(reserialised(text), "refused") << text;
     }
 }
@@ -59,6 +65,7 @@ TEST(JsonParse, TellsTheLineOfAnError) {
     EXPECT_EQ(lineOfError("{"), 1);
     EXPECT_EQ(lineOfError("{\n\"a\": 1,\n\"b\": ?\n}\n"), 3);
     EXPECT_EQ(lineOfError("[1,\n1e309,\n2]\n"), 2);
+    EXPECT_EQ(lineOfError("{\n\"a\nb\": 1}"), 2);  // the line break itself is the error
 }
 
 TEST(JsonParse, RefusesNumbersBeyondADouble) {
@@ -75,11 +82,17 @@ TEST(JsonParse, ObjectsNestAThousandDeepAndNoDeeper) {
 TEST(JsonParse, ArraysNestAHundredDeepAsTheLibraryHasIt) {
     EXPECT_NE(reserialised(nested(100, "[", "]")), "refused");
     EXPECT_EQ(reserialised(nested(101, "[", "]")), "refused");
+    // Within the deepest array the library takes no object either.
+    EXPECT_NE(reserialised(nested(99, "[", "]").replace(99, 1, "{}")), "refused");
+    EXPECT_EQ(reserialised(nested(100, "[", "]").replace(100, 1, "{}")), "refused");
 }
 
 TEST(JsonParse, MixedNestingHasTheSameBounds) {
     EXPECT_NE(reserialised("[" + nested(999, "{\"a\":", "}") + "]"), "refused");
     EXPECT_EQ(reserialised("[" + nested(1000, "{\"a\":", "}") + "]"), "refused");
+    EXPECT_NE(reserialised(nested(998, "{\"a\":", "}").replace(998 * 5, 1, "[[1]]")), "refused");
+    EXPECT_EQ(reserialised(nested(999, "{\"a\":", "}").replace(999 * 5, 1, "[[1]]")), "refused");
+    EXPECT_EQ(reserialised(nested(1000, "{\"a\":", "}").replace(1000 * 5, 1, "[1]")), "refused");
 }
 
 TEST(JsonParse, AHugeDepthEndsQuietly) {
