@@ -179,6 +179,12 @@ TEST(ParseFloatList, ReadsEveryElement) {
               (Floats{true, {0.5F, 100.0F, 8.0F, 0.0F}}));
 }
 
+TEST(ParseFloatList, AppendsToTheSequence) {
+    std::vector<float> numbers = {7.0F};
+    EXPECT_TRUE(parseFloatList("List(8)", numbers));
+    EXPECT_EQ(numbers, (std::vector{7.0F, 8.0F}));
+}
+
 TEST(ParseFloatList, ReadsAZeroOfAnEmptyListWithAPrefix) {
     EXPECT_EQ(read(parseFloatList, "FloatList()"), (Floats{true, {0.0F}}));
 }
@@ -190,6 +196,12 @@ TEST(ParseFloatList, RefusesWhatIsNoList) {
 TEST(ParseVector3List, ReadsEveryElement) {
     EXPECT_EQ(read(parseVector3List, "ColorList(Color(1,1,1), Color(0,0.5,0))"),
               (Vectors{true, {{1.0F, 1.0F, 1.0F}, {0.0F, 0.5F, 0.0F}}}));
+}
+
+TEST(ParseVector3List, AppendsToTheSequence) {
+    std::vector<Vector3> colors = {{7.0F, 8.0F, 9.0F}};
+    EXPECT_TRUE(parseVector3List("List(Color(1,2,3))", colors));
+    EXPECT_EQ(colors, (std::vector<Vector3>{{7.0F, 8.0F, 9.0F}, {1.0F, 2.0F, 3.0F}}));
 }
 
 TEST(ParseVector3List, IsTrueForAnEmptyPlainListOnly) {

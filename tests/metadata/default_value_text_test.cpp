@@ -109,6 +109,16 @@ TEST(PluginReferenceText, OfReferencesThatNameNothing) {
     EXPECT_EQ(text(10, reference(sdk, 7)), "#InvalidPlugin");
 }
 
+TEST(PluginReferenceText, OfAnIdOfEqualBitsNamesNothingWhateverTheSdkSays) {
+    FakeSdk sdk;
+    sdk.plugins[0] = {.name = "zeros"};
+    sdk.plugins[-1] = {.name = "ones"};
+    EXPECT_EQ(text(10, reference(sdk, 0)), "#InvalidPlugin");
+    EXPECT_EQ(text(10, reference(sdk, 0x7FFF'0000'0000'0000)), "#InvalidPlugin");
+    EXPECT_EQ(text(10, reference(sdk, -1)), "#InvalidPlugin");
+    EXPECT_EQ(text(10, reference(sdk, 0x0000'FFFF'FFFF'FFFF)), "#InvalidPlugin");
+}
+
 TEST(PluginReferenceText, OfThePluginAloneOrWithItsProperty) {
     FakeSdk sdk;
     sdk.plugins[5] = {.name = "noise", .properties = {{0, "never"}, {1, "out_color"}}};

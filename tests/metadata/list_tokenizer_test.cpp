@@ -116,6 +116,11 @@ TEST(ListTokenizer, EndsTheLastElementAtItsParenthesis) {
     EXPECT_EQ(elementsOf("List(1, a(2,3)  )"), Elements({"1", "a(2,3)", ""}));
 }
 
+TEST(ListTokenizer, EndsAnElementThatNoCommaFollowsAtTheLastParenthesisOfTheText) {
+    EXPECT_EQ(elementsOf("List(Color(1))"), Elements({"Color(1)"}));
+    EXPECT_EQ(elementsOf("List(1, 2) 3) x"), Elements({"1", "2) 3"}));
+}
+
 TEST(ListTokenizer, EndsAtAnElementWhoseParenthesisStaysOpen) {
     EXPECT_EQ(elementsOf("List(1,Color(2,3"), Elements({"1"}));
 }
