@@ -32,6 +32,19 @@ TEST(CombinedDocument, KeepsTheFirstInByteOrderOfKeysThatFoldAlike) {
               R"({"x":{"File.Name":2}})");
 }
 
+TEST(CombinedDocument, KeepsTheFirstInByteOrderOfVeryManyKeysThatFoldAlike) {
+    // Every way to write "abcdef" in small and capital letters, behind a key that sorts after them.
+    json::Object document = objectOf(R"({"Z":"last"})");
+    for (unsigned capitals = 0; capitals < 64; ++capitals) {
+        std::string key = "abcdef";
+        for (std::size_t i = 0; i < key.size(); ++i) {
+            if ((capitals >> i & 1U) != 0) key[i] = static_cast<char>(key[i] - 'a' + 'A');
+        }
+        document[key] = json::Value(key);
+    }
+    EXPECT_EQ(combinedDocument(document), R"({"ABCDEF":"ABCDEF","Z":"last"})");
+}
+
 TEST(CombinedDocument, KeepsTypeBesideKeysThatFoldToIt) {
     EXPECT_EQ(written(R"({"type":1,"TYPE":2,"tYPE":3,"a":4})"), R"({"type":1,"a":4,"TYPE":2})");
 }
