@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <set>
 #include <string>
@@ -76,7 +77,7 @@ std::string reportOf(const json::Object& left, const json::Object& right) {
 std::vector<std::string> linesOf(const std::string& report) {
     std::vector<std::string> lines;
     for (std::size_t begin = 0, end = 0; begin < report.size(); begin = end + 1) {
-        end = report.find('\n', begin);
+        end = std::min(report.find('\n', begin), report.size());
         lines.push_back(report.substr(begin, end - begin));
     }
     return lines;
