@@ -32,6 +32,15 @@ TEST(JsonAgreement, OnTheSample) {
     EXPECT_EQ(ours(sample), theLibrarys(std::string(sample)));
 }
 
+TEST(JsonAgreement, OnTheTextOfEveryByte) {
+    for (int code = 0; code < 256; ++code) {
+        const std::string byte(1, static_cast<char>(code));
+        for (const std::string& text : {byte, "a" + byte + "b", byte + byte}) {
+            EXPECT_EQ(compactText(Value(text)), Value(text).serialize()) << code;
+        }
+    }
+}
+
 TEST(JsonAgreement, OnEveryBeginningAndEveryEnd) {
     for (std::size_t length = 0; length <= sample.size(); ++length) {
         const std::string beginning(sample.substr(0, length));

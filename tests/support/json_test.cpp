@@ -46,6 +46,10 @@ TEST(JsonParse, KeepsTheLastOfEqualMembers) {
     EXPECT_EQ(reserialised(R"({"a":1,"a":2})"), R"({"a":2})");
 }
 
+TEST(JsonParse, TakesFourBytesAsBlanks) {
+    EXPECT_EQ(reserialised(" \t\r\n{\r\"a\"\r:\r[\r1\r,\r2\r]\r}"), R"({"a":[1,2]})");
+}
+
 TEST(JsonParse, RefusesAByteOrderMark) { EXPECT_EQ(reserialised("\xef\xbb\xbf{}"), "refused"); }
 
 TEST(JsonParse, RefusesBrokenText) {
@@ -111,10 +115,37 @@ TEST(JsonCompactText, AppendsToWhatIsThere) {
     EXPECT_EQ(out, "xtrue");
 }
 
+TEST(JsonKeepToProcessEnd, KeepsEveryDocumentInItsPlace) {
+    const Value& first = keepToProcessEnd(Value("first"));
+    const Value* last = &first;
+    for (double number = 0; number < 100; ++number) last = &keepToProcessEnd(Value(number));
+    EXPECT_EQ(compactText(first), "\"first\"");
+    EXPECT_EQ(compactText(*last), "99");
+}
+
 TEST(JsonMembers, FindGivesNullForAMissingMember) {
     const Value document = *parse(R"({"a":1})");
     EXPECT_EQ(find(asObject(document), "b"), nullptr);
     EXPECT_EQ(compactText(*find(asObject(document), "a")), "1");
+}
+
+TEST(JsonMembers, FindComparesWholeNames) {
+    const Value document = *parse(R"({"ab":1,"b":2})");
+    EXPECT_EQ(find(asObject(document), "a"), nullptr);
+    EXPECT_EQ(find(asObject(document), "abc"), nullptr);
+    EXPECT_EQ(find(asObject(document), ""), nullptr);
+    EXPECT_EQ(compactText(*find(asObject(document), "b")), "2");
+}
+
+TEST(JsonMembers, FindLooksThroughObjectsOfAnySize) {
+    Object object;
+    for (std::size_t size = 0; size < 20; ++size) {
+        const std::string name = "n" + std::string(size, 'x');
+        EXPECT_EQ(find(object, name), nullptr) << size;
+        EXPECT_EQ(find(object, "m"), nullptr) << size;
+        object[name] = Value(static_cast<double>(size));
+        for (const auto& member : object) EXPECT_EQ(find(object, member.first), &member.second);
+    }
 }
 
 TEST(JsonMembers, AtThrowsForAMissingMember) {
