@@ -11,8 +11,9 @@ const char* malloc_conf = "narenas:1,oversize_threshold:0,dirty_decay_ms:-1,muzz
 
 namespace {
 
-/// The allocator asks for a little more memory each time, up to this.
-constexpr std::size_t largestStep = std::size_t{8} << 20U;
+/// The allocator asks for a little more memory each time, up to this: no more than a cache holds,
+/// since the pages of a step are cleared before the first of them is used.
+constexpr std::size_t largestStep = std::size_t{1} << 20U;
 
 extent_hooks_t* standardHooks = nullptr;
 

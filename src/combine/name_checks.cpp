@@ -33,17 +33,20 @@ std::string clashingNames(const json::Value& plugin) {
     return commonNames(json::asObject(*params), json::asObject(*userData));
 }
 
-const std::string* findText(const json::Object& entry, const char* key) {
-    const json::Value* value = json::find(entry, key);
-    return value == nullptr ? nullptr : &json::asString(*value);
-}
-
-/// Whether the entry lacks the default value that its list type asks for.
+/// Whether the entry lacks the default value that its list type asks for. One walk along the
+/// members, because this is asked of every parameter of the document.
 bool lacksDefault(const json::Object& entry) {
-    const std::string* type = findText(entry, "type");
-    const std::string* defaultValue = findText(entry, "defaultValue");
-    const std::string* listType = findText(entry, "listType");
-    if (type != nullptr || defaultValue != nullptr || listType == nullptr) return false;
+    const std::string* listType = nullptr;
+    bool hasTypeOrDefault = false;
+    for (const auto& [key, value] : entry) {
+        if (key == "type" || key == "defaultValue") {
+            static_cast<void>(json::asString(value));  // anything but a text is a mismatch
+            hasTypeOrDefault = true;
+        } else if (key == "listType") {
+            listType = &json::asString(value);
+        }
+    }
+    if (hasTypeOrDefault || listType == nullptr) return false;
     return hasDefaultValueReader(typeCode(*listType, ""));
 }
 
