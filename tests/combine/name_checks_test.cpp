@@ -123,6 +123,13 @@ TEST(ReportUnexpectedDefaults, ThrowsForMembersOfAnEntryThatAreNoTexts) {
               noTextMessage);
     EXPECT_EQ(defaultsMessage(R"({"A":{"userData":{"u":{"type":"list","listType":null}}}})"),
               noTextMessage);
+    // Whatever comes before it in the order of the members, each is looked at.
+    EXPECT_EQ(defaultsMessage(R"({"A":{"params":{"p":{"defaultValue":"1","listType":1}}}})"),
+              noTextMessage);
+    EXPECT_EQ(defaultsMessage(R"({"A":{"params":{"p":{"defaultValue":"1","type":1}}}})"),
+              noTextMessage);
+    EXPECT_EQ(defaultsMessage(R"({"A":{"params":{"p":{"listType":"string","type":1}}}})"),
+              noTextMessage);
 }
 
 TEST(CheckNamesAndDefaults, PassesADocumentWithoutPlugins) {
