@@ -110,13 +110,13 @@ std::string cataloguePath() {
     return path.empty() ? libraryFolder() + "catalogue.json" : path;
 }
 
-std::optional<std::string> readFile(const std::string& path) {
+std::optional<FileText> readFile(const std::string& path) {
     const File file = openBytesForReading(path);
     if (!file) {
         report(path, std::string("can't be opened: ") + std::strerror(errno));
         return std::nullopt;
     }
-    std::optional<std::string> text = readAll(file.get());
+    std::optional<FileText> text = readAll(file.get());
     if (!text) report(path, std::string("can't be read: ") + std::strerror(errno));
     return text;
 }
@@ -124,10 +124,10 @@ std::optional<std::string> readFile(const std::string& path) {
 /// The catalogue of the file; nothing after a report of what is wrong.
 std::unique_ptr<Catalogue> openCatalogue() {
     const std::string path = cataloguePath();
-    const std::optional<std::string> text = readFile(path);
+    const std::optional<FileText> text = readFile(path);
     if (!text) return nullptr;
     try {
-        return readCatalogue(*text);
+        return readCatalogue(text->view());
     } catch (const CatalogueError& error) {
         report(path, error.what());
         return nullptr;

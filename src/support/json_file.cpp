@@ -8,10 +8,10 @@
 namespace metagen::json {
 
 Value& parseFileOrExit(File file, const std::string& unreadable, const std::string& malformed) {
-    const std::optional<std::string> text = readAll(file.get());
+    const std::optional<FileText> text = readAll(file.get());
     requireOrExit(text.has_value(), "%s", unreadable.c_str());
     file.reset();
-    std::optional<Value> document = parse(*text);
+    std::optional<Value> document = parse(text->view());
     requireOrExit(document.has_value(), "%s", malformed.c_str());
     return keepToProcessEnd(std::move(*document));
 }

@@ -1,6 +1,7 @@
 #include "support/text_file.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace metagen {
 
@@ -8,18 +9,19 @@ void FileCloser::operator()(std::FILE* file) const noexcept {
     static_cast<void>(std::fclose(file));
 }
 
-std::optional<std::string> readAll(std::FILE* file) {
+std::optional<FileText> readAll(std::FILE* file) {
     constexpr std::size_t smallestRead = std::size_t{1} << 12U;
-    std::string text;
-    std::size_t length = 0;
+    FileText text;
+    std::size_t capacity = 0;
     std::size_t wanted = sizeOf(file) + 1;  // one more, so that the file's end shows at once
     do {
-        text.resize(length + std::max(wanted, smallestRead));
-        const std::size_t count = std::fread(text.data() + length, 1, text.size() - length, file);
-        length += count;
-        wanted = length;  // a file without a size is read in doubling steps
-    } while (length == text.size());
-    text.resize(length);
+        capacity += std::max(wanted, smallestRead);
+        std::unique_ptr<char[]> larger = std::make_unique_for_overwrite<char[]>(capacity);
+        std::copy_n(text.bytes.get(), text.size, larger.get());
+        text.bytes = std::move(larger);
+        text.size += std::fread(text.bytes.get() + text.size, 1, capacity - text.size, file);
+        wanted = text.size;  // a file without a size is read in doubling steps
+    } while (text.size == capacity);
     if (std::ferror(file) != 0) return std::nullopt;
     return text;
 }

@@ -1,10 +1,10 @@
 // Whole text files: opened by name, read or written in one go, in the platform's text mode.
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <memory>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace metagen {
@@ -25,8 +25,21 @@ File openForWriting(const char* path);
 /// The number of bytes that the file holds, as far as the system knows; 0 for what has no size.
 std::size_t sizeOf(std::FILE* file);
 
+/// The text of a file. A std::string would clear its memory before the file's bytes come in, which
+/// takes as long as reading them.
+class FileText {
+public:
+    std::string_view view() const { return {bytes.get(), size}; }
+
+private:
+    friend std::optional<FileText> readAll(std::FILE* file);
+
+    std::unique_ptr<char[]> bytes;
+    std::size_t size = 0;
+};
+
 /// The rest of the file from where it stands; nothing when reading fails.
-std::optional<std::string> readAll(std::FILE* file);
+std::optional<FileText> readAll(std::FILE* file);
 
 /// Writes the whole text. A full device goes unnoticed, as the tool's users know it.
 void writeAll(std::FILE* file, std::string_view text);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <optional>
 #include <random>
 #include <string>
 
@@ -18,6 +19,11 @@ protected:
     }
     ~TextFile() override { std::filesystem::remove_all(path); }
 
+    std::string read() const {
+        const std::optional<FileText> text = readAll(openForReading(path.c_str()).get());
+        return std::string(text.value().view());
+    }
+
     std::string path;
 };
 
@@ -25,18 +31,18 @@ TEST_F(TextFile, ReadsWhatWasWritten) {
     std::string text(300'000, 'x');
     text += "\nend";
     writeAll(openForWriting(path.c_str()).get(), text);
-    EXPECT_EQ(readAll(openForReading(path.c_str()).get()), text);
+    EXPECT_EQ(read(), text);
 }
 
 TEST_F(TextFile, AnEmptyFileIsAnEmptyText) {
     writeAll(openForWriting(path.c_str()).get(), "");
-    EXPECT_EQ(readAll(openForReading(path.c_str()).get()), "");
+    EXPECT_EQ(read(), "");
 }
 
 TEST_F(TextFile, WritingTruncates) {
     writeAll(openForWriting(path.c_str()).get(), "long text");
     writeAll(openForWriting(path.c_str()).get(), "short");
-    EXPECT_EQ(readAll(openForReading(path.c_str()).get()), "short");
+    EXPECT_EQ(read(), "short");
 }
 
 TEST_F(TextFile, AMissingFileOrFolderCanNotBeOpened) {
