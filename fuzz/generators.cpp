@@ -45,9 +45,9 @@ void generateSideTables(const CombinedModel& model, std::string& text) {
 void generateMeta(const json::Object& plugins) {
     const CombinedModel model = readCombinedModel(plugins, "meta");
     ValueArrays arrays;
-    std::string text;
-    appendRegistrations(text, model, arrays);
-    writeRegistrations(binarySink(), model);
+    Registrations registrations;
+    addRegistrations(registrations, arrays, model);
+    std::string& text = registrations.source;
     generateSideTables(model, text);
     appendDefinitions(text, arrays);
 }

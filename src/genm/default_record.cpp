@@ -47,23 +47,23 @@ struct DefaultTextWriter {
 };
 
 /// Writes what follows the kind, for a default of each kind.
-struct DefaultFileWriter {
-    BinaryFile& file;
+struct DefaultRecordWriter {
+    BinaryBuffer& records;
 
-    void operator()(std::int32_t number) const { file.writeI32(number); }
-    void operator()(float number) const { file.writeF32(number); }
-    void operator()(std::string_view text) const { file.writeText(text); }
+    void operator()(std::int32_t number) const { records.writeI32(number); }
+    void operator()(float number) const { records.writeF32(number); }
+    void operator()(std::string_view text) const { records.writeText(text); }
     void operator()(const DescriptorOnly& record) const {
-        file.writeU32(record.descriptor->number);
+        records.writeU32(record.descriptor->number);
     }
     void operator()(const IntegerArray& record) const { writeArray(record); }
     void operator()(const FloatArray& record) const { writeArray(record); }
 
     template <typename ValueArray>
     void writeArray(const ValueArray& record) const {
-        file.writeU32(record.descriptor->number);
-        file.writeCount(record.values.size());
-        file.writeBytes(record.values);
+        records.writeU32(record.descriptor->number);
+        records.writeCount(record.values.size());
+        records.writeBytes(record.values);
     }
 };
 
@@ -72,8 +72,10 @@ struct DefaultFileWriter {
 DefaultRecord readDefault(const ParamEntry& parameter) {
     const bool isList = parameter.isList == 1;
     const std::int32_t code = typeCode(isList ? "list" : *parameter.typeName, *parameter.typeName);
-    const std::string* text = std::get_if<std::string>(&parameter.defaultValue);
-    if (text != nullptr || isList) return readTypedDefault(code, text);
+    const auto* text = std::get_if<const std::string*>(&parameter.defaultValue);
+    if (text != nullptr || isList) {
+        return readTypedDefault(code, text != nullptr ? *text : nullptr);
+    }
     if (code == type_code::integer) return std::int32_t{0};
     return std::string_view();
 }
@@ -82,9 +84,9 @@ void appendDefault(std::string& out, DefaultRecord record, ValueArrays& groups) 
     std::visit(DefaultTextWriter{out, groups}, std::move(record));
 }
 
-void writeDefault(BinaryFile& file, const DefaultRecord& record) {
-    file.writeU32(static_cast<std::uint32_t>(record.index()));
-    std::visit(DefaultFileWriter{file}, record);
+void writeDefault(BinaryBuffer& records, const DefaultRecord& record) {
+    records.writeU32(static_cast<std::uint32_t>(record.index()));
+    std::visit(DefaultRecordWriter{records}, record);
 }
 
 }  // namespace metagen

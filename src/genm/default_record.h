@@ -53,6 +53,6 @@ DefaultRecord readDefault(const ParamEntry& parameter);
 void appendDefault(std::string& out, DefaultRecord record, ValueArrays& groups);
 
 /// Writes the binary record. It carries the values themselves, not the arrays' names.
-void writeDefault(BinaryFile& file, const DefaultRecord& record);
+void writeDefault(BinaryBuffer& records, const DefaultRecord& record);
 
 }  // namespace metagen

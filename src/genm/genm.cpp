@@ -30,6 +30,8 @@ struct Tables {
     const CombinedModel& model;
     FileTables files;
     ScalingTable scaling;
+    ValueArrays arrays = {};
+    Registrations registrations = {};
 };
 
 const json::Object& pluginsOrExit(const json::Value& document) {
@@ -45,41 +47,44 @@ double versionOrExit(const json::Value& document) {
     return version->get<double>();
 }
 
-std::string registrations(const Tables& tables, ValueArrays& arrays) {
-    std::string text = "Meta m(";
-    appendGeneral(text, tables.version);
-    text += ");\n\n";
-    appendRegistrations(text, tables.model, arrays);
-    return text;
-}
-
 void writeBinaryTables(BinaryFile& file, const Tables& tables) {
     file.writeTag("META");
     file.writeI32(toInt32(tables.version));
     file.writeCount(tables.model.size());
-    writeRegistrations(file, tables.model);
+    file << tables.registrations.records.view();
     writeFileTable(file, tables.files.files);
     writeFileTable(file, tables.files.inputFiles);
     writeScalingTable(file, tables.scaling, tables.model);
     file.close();
 }
 
-/// Appends the sections that follow the registrations.
-void appendSideTables(std::string& text, const Tables& tables) {
+/// What stands before the registrations.
+std::string sourceHead(const Tables& tables) {
+    std::string text = "//unique value arrays\n";
+    appendDefinitions(text, tables.arrays);
+    text += "\nMeta m(";
+    appendGeneral(text, tables.version);
+    text += ");\n\n";
+    return text;
+}
+
+/// What follows the registrations.
+std::string sourceTail(const Tables& tables) {
+    std::string text;
     appendFileTable(text, "m.fileParams", tables.files.files);
     text += '\n';
     appendFileTable(text, "m.inputFileParams", tables.files.inputFiles);
     text += '\n';
     appendScalingTable(text, tables.scaling, tables.model);
     text += "\nreturn m;\n";
+    return text;
 }
 
-void writeInl(std::FILE* file, const ValueArrays& arrays, std::string_view body) {
-    std::string head = "//unique value arrays\n";
-    appendDefinitions(head, arrays);
-    head += '\n';
-    writeAll(file, head);
-    writeAll(file, body);
+void writeSourceTables(std::FILE* file, const Tables& tables) {
+    const std::string tail = sourceTail(tables);  // it may end the process
+    writeAll(file, sourceHead(tables));
+    writeAll(file, tables.registrations.source);
+    writeAll(file, tail);
 }
 
 }  // namespace
@@ -100,13 +105,10 @@ void genm(const char* inputPath, const char* outputBase) {
     const json::Object& plugins = pluginsOrExit(document);
     const double version = versionOrExit(document);
     const CombinedModel model = readCombinedModel(plugins, "meta");
-    const Tables tables = {version, model, collectFileTables(model), collectScalingTable(model)};
-
-    ValueArrays arrays;
-    std::string body = registrations(tables, arrays);
+    Tables tables = {version, model, collectFileTables(model), collectScalingTable(model)};
+    addRegistrations(tables.registrations, tables.arrays, model);
     writeBinaryTables(binFile, tables);
-    appendSideTables(body, tables);
-    writeInl(inlFile.get(), arrays, body);
+    writeSourceTables(inlFile.get(), tables);
 }
 
 }  // namespace metagen

@@ -1,5 +1,7 @@
 #include "genm/registrations.h"
 
+#include <utility>
+
 #include "genm/default_record.h"
 #include "support/number_text.h"
 
@@ -7,51 +9,48 @@ namespace metagen {
 
 namespace {
 
-void appendParameter(std::string& out, std::string_view name, const ParamEntry& parameter,
-                     ValueArrays& groups) {
-    out += "\n\t.add(\"";
-    out += name;
-    out += "\", \"";
-    out += *parameter.typeName;
-    out += "\", ";
-    appendInteger(out, parameter.flags);
-    out += ", ";
-    appendDefault(out, readDefault(parameter), groups);
-    out += ')';
+void addParameter(Registrations& out, ValueArrays& groups, std::string_view name,
+                  const ParamEntry& parameter) {
+    DefaultRecord defaultValue = readDefault(parameter);
+    out.records.writeText(name);
+    out.records.writeText(*parameter.typeName);
+    out.records.writeU32(parameter.flags);
+    writeDefault(out.records, defaultValue);
+
+    out.source += "\n\t.add(\"";
+    out.source += name;
+    out.source += "\", \"";
+    out.source += *parameter.typeName;
+    out.source += "\", ";
+    appendInteger(out.source, parameter.flags);
+    out.source += ", ";
+    appendDefault(out.source, std::move(defaultValue), groups);
+    out.source += ')';
 }
 
-void writeParameter(BinaryFile& file, std::string_view name, const ParamEntry& parameter) {
-    file.writeText(name);
-    file.writeText(*parameter.typeName);
-    file.writeU32(parameter.flags);
-    writeDefault(file, readDefault(parameter));
+void addPlugin(Registrations& out, ValueArrays& groups, std::string_view name,
+               const PluginEntry& plugin) {
+    out.records.writeText(name);
+    // Without a category the literal of an empty text, two double quotes: deliberate, hosts tell
+    // it from an empty category.
+    out.records.writeText(plugin.category != nullptr ? std::string_view(*plugin.category) : "\"\"");
+    out.records.writeCount(plugin.params.size());
+
+    out.source += "m.add(\"";
+    out.source += name;
+    out.source += "\", \"";
+    if (plugin.category != nullptr) out.source += *plugin.category;
+    out.source += "\")";
+    for (const auto& [parameterName, parameter] : plugin.params) {
+        addParameter(out, groups, parameterName, parameter);
+    }
+    out.source += ";\n\n";
 }
 
 }  // namespace
 
-void appendRegistrations(std::string& out, const CombinedModel& model, ValueArrays& groups) {
-    for (const auto& [plugin, entry] : model) {
-        out += "m.add(\"";
-        out += plugin;
-        out += "\", \"";
-        if (entry.category != nullptr) out += *entry.category;
-        out += "\")";
-        for (const auto& [name, parameter] : entry.params) {
-            appendParameter(out, name, parameter, groups);
-        }
-        out += ";\n\n";
-    }
-}
-
-void writeRegistrations(BinaryFile& file, const CombinedModel& model) {
-    for (const auto& [plugin, entry] : model) {
-        file.writeText(plugin);
-        // Without a category the literal of an empty text, two double quotes: deliberate, hosts
-        // tell it from an empty category.
-        file.writeText(entry.category != nullptr ? std::string_view(*entry.category) : "\"\"");
-        file.writeCount(entry.params.size());
-        for (const auto& [name, parameter] : entry.params) writeParameter(file, name, parameter);
-    }
+void addRegistrations(Registrations& out, ValueArrays& groups, const CombinedModel& model) {
+    for (const auto& [name, plugin] : model) addPlugin(out, groups, name, plugin);
 }
 
 }  // namespace metagen

@@ -9,11 +9,15 @@
 
 namespace metagen {
 
-/// Appends a statement and an empty line for each plugin; the arrays of default values go to the
-/// groups. A default that can't be expressed ends the process or throws (see readTypedDefault).
-void appendRegistrations(std::string& out, const CombinedModel& model, ValueArrays& groups);
+/// The registrations as the two tables have them.
+struct Registrations {
+    std::string source;    ///< a statement and an empty line for each plugin
+    BinaryBuffer records;  ///< a record for each plugin
+};
 
-/// Writes a record for each plugin.
-void writeRegistrations(BinaryFile& file, const CombinedModel& model);
+/// Adds the model's plugins to both in one pass, which reads every default once; the arrays of
+/// default values go to the groups. A default that can't be expressed ends the process or throws
+/// (see readTypedDefault).
+void addRegistrations(Registrations& out, ValueArrays& groups, const CombinedModel& model);
 
 }  // namespace metagen

@@ -1,6 +1,6 @@
 // What the generators take from a combined document: plugins with their parameters, each reduced
-// to a fixed record. Names, categories and type names are borrowed from the document's value tree,
-// which must outlive the model unchanged.
+// to a fixed record. Names, categories, type names and default texts are borrowed from the
+// document's value tree, which must outlive the model unchanged.
 #pragma once
 
 #include <cstdint>
@@ -17,9 +17,9 @@ namespace metagen {
 using Color = Vector3;
 
 /// A parameter's default, std::monostate for none. A text is the default value text as it stands
-/// in the document.
-using DefaultValue =
-    std::variant<std::monostate, std::int32_t, float, double, bool, Color, AColor, std::string>;
+/// in the document, never null.
+using DefaultValue = std::variant<std::monostate, std::int32_t, float, double, bool, Color, AColor,
+                                  const std::string*>;
 
 /// A condition on another parameter of the plugin under which a parameter scales.
 struct ScaleCondition {

@@ -1,4 +1,4 @@
-// The binary files of the generators: primitives without alignment, padding or separators, every
+// The binary tables of the generators: primitives without alignment, padding or separators, every
 // number little-endian whatever the machine. Hosts load the files byte by byte as they stand here.
 #pragma once
 
@@ -7,11 +7,12 @@
 #include <fstream>
 #include <ios>
 #include <span>
+#include <sstream>
 #include <string_view>
 
 namespace Qyrakit {
 
-/// A file stream that binary values are written to, opened as the stream itself is, with
+/// A stream that binary values are written to, opened as the stream itself is, with
 /// std::ios::binary. No write is checked: a full device leaves a short file.
 template <typename Stream>
 class obstream : public Stream {  // NOLINT(readability-identifier-naming): named like a stream
@@ -58,5 +59,8 @@ namespace metagen {
 
 /// The `.bin` file of a generator: BinaryFile(path, std::ios::binary) creates or truncates it.
 using BinaryFile = Qyrakit::obstream<std::ofstream>;
+
+/// Records that are made before the file may get them. Its view() gives their bytes.
+using BinaryBuffer = Qyrakit::obstream<std::ostringstream>;
 
 }  // namespace metagen

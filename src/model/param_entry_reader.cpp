@@ -77,7 +77,7 @@ ParamEntry readParamEntry(const json::Object& object, std::uint32_t originFlag) 
     readScaling(object, entry);
     requireKnownType(type, *entry.typeName);
     const json::Value* text = json::find(object, "defaultValue");
-    if (text != nullptr) entry.defaultValue = json::asString(*text);
+    if (text != nullptr) entry.defaultValue = &json::asString(*text);
     return entry;
 }
 

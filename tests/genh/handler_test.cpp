@@ -55,7 +55,8 @@ TEST(HandlerOf, AFloatTakesAnyNumber) {
 
 TEST(HandlerOf, AFloatOfAnythingElseIsZero) {
     EXPECT_EQ(floatHandler({}), "1(0.f)");
-    EXPECT_EQ(floatHandler(std::string("5")), "1(0.f)");
+    const std::string text = "5";
+    EXPECT_EQ(floatHandler(&text), "1(0.f)");
     EXPECT_EQ(floatHandler(Color{5, 5, 5}), "1(0.f)");
     EXPECT_EQ(floatHandler(AColor{5, 5, 5, 5}), "1(0.f)");
 }
@@ -90,7 +91,8 @@ TEST(HandlerOf, NaNIsNeverGrey) {
 TEST(HandlerOf, AColorOfAnythingElseIsBlack) {
     EXPECT_EQ(colorHandler({}), "2(0.f)");
     EXPECT_EQ(colorHandler(5.0F), "2(0.f)");
-    EXPECT_EQ(colorHandler(std::string("Color(1,2,3)")), "2(0.f)");
+    const std::string text = "Color(1,2,3)";
+    EXPECT_EQ(colorHandler(&text), "2(0.f)");
 }
 
 TEST(HandlerOf, ADuplicateHasNoArguments) {

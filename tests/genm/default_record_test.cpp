@@ -47,7 +47,9 @@ Written written(const DefaultRecord& record) {
     ValueArrays groups;
     appendDefault(result.source, record, groups);
     appendDefinitions(result.arrays, groups);
-    result.record = fileBytesOf([&](BinaryFile& file) { writeDefault(file, record); });
+    BinaryBuffer records;
+    writeDefault(records, record);
+    result.record = records.str();
     return result;
 }
 
@@ -411,7 +413,7 @@ ParamEntry parameter(const std::string& typeName, bool isList) {
 
 ParamEntry parameter(const std::string& typeName, bool isList, const std::string& defaultText) {
     ParamEntry entry = parameter(typeName, isList);
-    entry.defaultValue = defaultText;
+    entry.defaultValue = &defaultText;
     return entry;
 }
 

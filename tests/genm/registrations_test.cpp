@@ -11,14 +11,17 @@ namespace metagen {
 namespace {
 
 std::string source(const CombinedModel& model) {
-    std::string out;
+    Registrations registrations;
     ValueArrays groups;
-    appendRegistrations(out, model, groups);
-    return out;
+    addRegistrations(registrations, groups, model);
+    return registrations.source;
 }
 
 std::string bytes(const CombinedModel& model) {
-    return fileBytesOf([&](BinaryFile& file) { writeRegistrations(file, model); });
+    Registrations registrations;
+    ValueArrays groups;
+    addRegistrations(registrations, groups, model);
+    return registrations.records.str();
 }
 
 TEST(Registrations, APluginWithoutParametersIsOneLine) {
