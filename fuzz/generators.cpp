@@ -46,7 +46,7 @@ void generateMeta(const json::Object& plugins) {
     const CombinedModel model = readCombinedModel(plugins, "meta");
     ValueArrays arrays;
     Registrations registrations;
-    addRegistrations(registrations, arrays, model);
+    fillRegistrations(registrations, arrays, model);
     std::string& text = registrations.source;
     generateSideTables(model, text);
     appendDefinitions(text, arrays);

@@ -106,7 +106,7 @@ void genm(const char* inputPath, const char* outputBase) {
     const double version = versionOrExit(document);
     const CombinedModel model = readCombinedModel(plugins, "meta");
     Tables tables = {version, model, collectFileTables(model), collectScalingTable(model)};
-    addRegistrations(tables.registrations, tables.arrays, model);
+    fillRegistrations(tables.registrations, tables.arrays, model);
     writeBinaryTables(binFile, tables);
     writeSourceTables(inlFile.get(), tables);
 }

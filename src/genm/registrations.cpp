@@ -9,6 +9,19 @@ namespace metagen {
 
 namespace {
 
+/// Makes room for what most parameters take: texts of many megabytes that grow in steps need
+/// memory, and a copy, for each.
+void reserveFor(Registrations& out, const CombinedModel& model) {
+    constexpr std::size_t usualSource = 88;
+    constexpr std::size_t usualRecord = 64;
+    std::size_t parameters = 0;
+    for (const auto& [name, plugin] : model) parameters += plugin.params.size();
+    out.source.reserve(parameters * usualSource);
+    std::string recordRoom;
+    recordRoom.reserve(parameters * usualRecord);
+    out.records.str(std::move(recordRoom));
+}
+
 void addParameter(Registrations& out, ValueArrays& groups, std::string_view name,
                   const ParamEntry& parameter) {
     DefaultRecord defaultValue = readDefault(parameter);
@@ -49,7 +62,8 @@ void addPlugin(Registrations& out, ValueArrays& groups, std::string_view name,
 
 }  // namespace
 
-void addRegistrations(Registrations& out, ValueArrays& groups, const CombinedModel& model) {
+void fillRegistrations(Registrations& out, ValueArrays& groups, const CombinedModel& model) {
+    reserveFor(out, model);
     for (const auto& [name, plugin] : model) addPlugin(out, groups, name, plugin);
 }
 

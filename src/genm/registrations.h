@@ -15,9 +15,9 @@ struct Registrations {
     BinaryBuffer records;  ///< a record for each plugin
 };
 
-/// Adds the model's plugins to both in one pass, which reads every default once; the arrays of
-/// default values go to the groups. A default that can't be expressed ends the process or throws
+/// Fills both, empty so far, in one pass, which reads every default once; the arrays of default
+/// values go to the groups. A default that can't be expressed ends the process or throws
 /// (see readTypedDefault).
-void addRegistrations(Registrations& out, ValueArrays& groups, const CombinedModel& model);
+void fillRegistrations(Registrations& out, ValueArrays& groups, const CombinedModel& model);
 
 }  // namespace metagen

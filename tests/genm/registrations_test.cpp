@@ -13,14 +13,14 @@ namespace {
 std::string source(const CombinedModel& model) {
     Registrations registrations;
     ValueArrays groups;
-    addRegistrations(registrations, groups, model);
+    fillRegistrations(registrations, groups, model);
     return registrations.source;
 }
 
 std::string bytes(const CombinedModel& model) {
     Registrations registrations;
     ValueArrays groups;
-    addRegistrations(registrations, groups, model);
+    fillRegistrations(registrations, groups, model);
     return registrations.records.str();
 }
 

@@ -49,7 +49,7 @@ TEST(ReadParamEntry, TheElementTypeOfASingleValueIsNotLookedAt) {
     EXPECT_EQ(readFloat(R"("listType":7)"), plainFloat);
 }
 
-TEST(ReadParamEntry, KeepsTheDefaultAsText) {
+TEST(ReadParamEntry, TakesTheDefaultAsText) {
     EXPECT_EQ(readFloat(R"("defaultValue":"0.5")"),
               "state -1, flags 0, file -1, list 0, type float, default text '0.5', scale 0 1");
     EXPECT_EQ(readFloat(R"("defaultValue":"")"),

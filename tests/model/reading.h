@@ -38,7 +38,7 @@ struct DefaultText {
     std::string operator()(bool flag) const { return flag ? "bool true" : "bool false"; }
     std::string operator()(const Color& color) const { return "color " + formatFloatList(color); }
     std::string operator()(const AColor& color) const { return "acolor " + formatFloatList(color); }
-    std::string operator()(const std::string& text) const { return "text '" + text + "'"; }
+    std::string operator()(const std::string* text) const { return "text '" + *text + "'"; }
 };
 
 inline std::string textOf(const std::string* text) { return text == nullptr ? "-" : *text; }
