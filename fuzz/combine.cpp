@@ -24,7 +24,7 @@ void combineDocuments(std::string_view input) {
 
     CombineReport report;
     merge(std::move(json::asObject(*stripped)), document, report);
-    const std::string combined = combinedDocument(document);
+    const std::string combined = CombinedDocument(document).text();
     fuzz::require(combined.front() == '{' && combined.back() == '}', "the output is an object");
     checkNamesAndDefaults(document);
     checkTextureHandlers(document, report);

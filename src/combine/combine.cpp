@@ -1,7 +1,6 @@
 #include "combine/combine.h"
 
 #include <memory>
-#include <string>
 #include <utility>
 
 #include "combine/combine_report.h"
@@ -24,17 +23,17 @@ void combine(const char* strippedPath, const char* outputPath) {
 
     json::Value& stripped = readStrippedDocument(std::move(strippedFile), strippedPath);
     const std::unique_ptr<Renderer> renderer = createRendererOrExit();
-    json::Value& live = readLiveDocument(*renderer);
+    const LiveDocument live = readLiveDocument(*renderer, stripped);
     json::Object& strippedObject = strippedObjectOrExit(stripped);
-    json::Object& document = liveObjectOrExit(live);
+    json::Object& document = liveObjectOrExit(live.tree);
 
     CombineReport report;
     merge(std::move(strippedObject), document, report);
-    const std::string combined = combinedDocument(document);
+    const CombinedDocument combined(document, live.otherPlugins);
     checkNamesAndDefaults(document);
     checkTextureHandlers(document, report);
     print(summaryText(std::move(report)));
-    writeAll(output.get(), combined);
+    combined.write(output.get());
 }
 
 }  // namespace metagen

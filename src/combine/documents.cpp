@@ -4,7 +4,6 @@
 #include <string>
 #include <utility>
 
-#include "combine/live_document.h"
 #include "metadata/base_document.h"
 #include "metadata/live_metadata.h"
 #include "support/json_file.h"
@@ -17,14 +16,14 @@ json::Value& readStrippedDocument(File file, const char* path) {
                                  "the given json file has errors inside");
 }
 
-json::Value& readLiveDocument(const Renderer& renderer) {
-    LiveDocument document;
+LiveDocument readLiveDocument(const Renderer& renderer, const json::Value& stripped) {
+    LiveDocumentBuilder document{NamedPlugins(stripped)};
     visitPlugins(renderer, [&document](std::string className, PluginRecord plugin) {
         document.add(std::move(className), std::move(plugin));
     });
-    if (document.isFaithful()) return json::keepToProcessEnd(document.take());
+    if (document.isFaithful()) return document.take();
     // What such names make of the document, the parser has to tell.
-    return parseLiveDocument(readBaseDocument(renderer).text());
+    return {parseLiveDocument(readBaseDocument(renderer).text()), {}};
 }
 
 json::Value& parseLiveDocument(std::string_view text) {

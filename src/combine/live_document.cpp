@@ -41,9 +41,52 @@ json::Value pluginValue(PluginRecord plugin, std::string& buffer) {
     return json::Value(std::move(members));
 }
 
+void appendParameter(std::string& out, const ParameterDescription& description) {
+    out += "{\"type\":";
+    json::appendCompactText(out, description.type);
+    if (description.defaultText) {
+        out += ",\"defaultValue\":";
+        json::appendCompactText(out, *description.defaultText);
+    }
+    if (!description.listType.empty()) {
+        out += ",\"listType\":";
+        json::appendCompactText(out, description.listType);
+    }
+    out += '}';
+}
+
+/// Appends what a combined document has of `pluginValue`. The parameters come in its order.
+void appendPlugin(std::string& out, const PluginRecord& plugin, std::string& buffer) {
+    out += "{\"type\":";
+    if (plugin.category) {
+        json::appendCompactText(out, *plugin.category);
+    } else {
+        out += "null";
+    }
+    out += ",\"params\":{";
+    const char* separator = "\"";
+    for (const auto& [name, parameter] : plugin.parameters) {
+        out += separator;
+        out += name;
+        out += "\":";
+        appendParameter(out, describe(parameter, buffer));
+        separator = ",\"";
+    }
+    out += "}}";
+}
+
 }  // namespace
 
-void LiveDocument::add(std::string className, PluginRecord plugin) {
+NamedPlugins::NamedPlugins(const json::Value& stripped) {
+    if (stripped.is<json::Object>()) plugins = json::find(json::asObject(stripped), "plugins");
+}
+
+bool NamedPlugins::contains(const std::string& plugin) const {
+    if (plugins == nullptr) return false;
+    return !plugins->is<json::Object>() || json::asObject(*plugins).contains(plugin);
+}
+
+void LiveDocumentBuilder::add(std::string className, PluginRecord plugin) {
     if (names.contains(className)) return;
     faithful = faithful && std::ranges::all_of(className, standsForItself);
     for (const auto& [name, parameter] : plugin.parameters) {
@@ -51,16 +94,22 @@ void LiveDocument::add(std::string className, PluginRecord plugin) {
         if (!hasTypeName(parameter.code)) namelessCode = parameter.code;
     }
     if (namelessCode) plugin.parameters.clear();  // the document will not be finished
-    const auto place = plugins.emplace_hint(plugins.end(), std::move(className),
-                                            pluginValue(std::move(plugin), buffer));
-    names.insert(place->first);
+    if (wanted.contains(className)) {
+        json::Value value = pluginValue(std::move(plugin), defaultTextBuffer);
+        names.insert(plugins.emplace(std::move(className), std::move(value)).first->first);
+    } else {
+        pluginBuffer.clear();
+        appendPlugin(pluginBuffer, plugin, defaultTextBuffer);
+        // A copy of the text, which takes no more room than it needs.
+        names.insert(otherPlugins.emplace(std::move(className), pluginBuffer).first->first);
+    }
 }
 
-json::Value LiveDocument::take() {
+LiveDocument LiveDocumentBuilder::take() {
     if (namelessCode) static_cast<void>(typeName(*namelessCode));  // ends the process
     json::Object document;
     document.emplace("plugins", json::Value(std::move(plugins)));
-    return json::Value(std::move(document));
+    return {json::keepToProcessEnd(json::Value(std::move(document))), std::move(otherPlugins)};
 }
 
 }  // namespace metagen

@@ -61,14 +61,21 @@ private:
             mergeObject(json::asObject(stripped), json::asObject(live), depth + 1);
             return;
         }
-        // Values are equal when their texts are, so 0 and -0 differ.
         const std::string liveText = json::compactText(live);
-        if (json::compactText(stripped) == liveText) {
+        if (areEqual(stripped, live, liveText)) {
             report.recordDuplication(key, liveText);
         } else {
             report.recordChange(key, levelAt(depth), stripped, liveText);
             live = std::move(stripped);
         }
+    }
+
+    /// Values are equal when their texts are, so 0 and -0 differ.
+    static bool areEqual(const json::Value& stripped, const json::Value& live,
+                         const std::string& liveText) {
+        const bool areTexts = stripped.is<std::string>() && live.is<std::string>();
+        return areTexts ? json::asString(stripped) == json::asString(live)
+                        : json::compactText(stripped) == liveText;
     }
 
     void recordNew(const std::string& key, const json::Value& stripped, int depth) {

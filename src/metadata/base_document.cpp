@@ -65,7 +65,9 @@ void BaseDocument::forEachPiece(const Append& append) const {
 }
 
 void BaseDocument::write(std::FILE* file) const {
-    forEachPiece([file](std::string_view piece) { writeAll(file, piece); });
+    PieceWriter writer(file);
+    forEachPiece([&writer](std::string_view piece) { writer.append(piece); });
+    writer.finish();
 }
 
 std::string BaseDocument::text() const {

@@ -64,22 +64,6 @@ constexpr ByteSet unescaped([](unsigned char byte) {
     return byte >= 0x20 && byte != '"' && byte != '\\' && byte != '/' && byte != 0x7F;
 });
 
-/// The library's serialisation of a text, in runs of bytes that need no escape.
-void appendText(std::string& out, const std::string& text) {
-    picojson::serialize_str_char<std::back_insert_iterator<std::string>> appendByte = {
-        std::back_inserter(out)};
-    out += '"';
-    auto rest = text.begin();
-    while (true) {
-        const auto special = std::find_if_not(rest, text.end(), unescaped);
-        out.append(rest, special);
-        if (special == text.end()) break;
-        appendByte(*special);
-        rest = special + 1;
-    }
-    out += '"';
-}
-
 }  // namespace
 
 std::optional<Value> parse(std::string_view text) {
@@ -136,8 +120,24 @@ std::string compactText(const Value& value) {
 }
 
 void appendCompactText(std::string& out, const Value& value) {
-    if (value.is<std::string>()) return appendText(out, asString(value));
+    if (value.is<std::string>()) return appendCompactText(out, asString(value));
     value.serialize(std::back_inserter(out));
+}
+
+/// In runs of bytes that need no escape.
+void appendCompactText(std::string& out, std::string_view text) {
+    picojson::serialize_str_char<std::back_insert_iterator<std::string>> appendByte = {
+        std::back_inserter(out)};
+    out += '"';
+    auto rest = text.begin();
+    while (true) {
+        const auto special = std::find_if_not(rest, text.end(), unescaped);
+        out.append(rest, special);
+        if (special == text.end()) break;
+        appendByte(*special);
+        rest = special + 1;
+    }
+    out += '"';
 }
 
 }  // namespace metagen::json

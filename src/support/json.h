@@ -51,5 +51,6 @@ const std::string& asString(const Value& value);
 /// The library's compact serialisation: no white space, texts quoted and escaped.
 std::string compactText(const Value& value);
 void appendCompactText(std::string& out, const Value& value);
+void appendCompactText(std::string& out, std::string_view text);
 
 }  // namespace metagen::json

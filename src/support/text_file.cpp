@@ -30,4 +30,15 @@ void writeAll(std::FILE* file, std::string_view text) {
     static_cast<void>(std::fwrite(text.data(), 1, text.size(), file));
 }
 
+void PieceWriter::append(std::string_view piece) {
+    constexpr std::size_t usefulSize = std::size_t{1} << 16U;
+    pieces += piece;
+    if (pieces.size() >= usefulSize) finish();
+}
+
+void PieceWriter::finish() {
+    writeAll(file, pieces);
+    pieces.clear();
+}
+
 }  // namespace metagen

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace metagen {
@@ -43,5 +44,22 @@ std::optional<FileText> readAll(std::FILE* file);
 
 /// Writes the whole text. A full device goes unnoticed, as the tool's users know it.
 void writeAll(std::FILE* file, std::string_view text);
+
+/// Writes a text that comes in pieces. The file's own buffer is small: it would take a call of the
+/// system for every few pieces, or one piece as large as the whole text.
+class PieceWriter {
+public:
+    /// Borrows the file.
+    explicit PieceWriter(std::FILE* outputFile) : file(outputFile) {}
+
+    void append(std::string_view piece);
+
+    /// Writes what is still held back.
+    void finish();
+
+private:
+    std::FILE* file;
+    std::string pieces;
+};
 
 }  // namespace metagen

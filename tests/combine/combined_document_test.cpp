@@ -7,7 +7,7 @@
 namespace metagen {
 namespace {
 
-std::string written(std::string_view text) { return combinedDocument(objectOf(text)); }
+std::string written(std::string_view text) { return CombinedDocument(objectOf(text)).text(); }
 
 TEST(CombinedDocument, OfAnEmptyObjectIsTwoBraces) { EXPECT_EQ(written("{}"), "{}"); }
 
@@ -42,7 +42,7 @@ TEST(CombinedDocument, KeepsTheFirstInByteOrderOfVeryManyKeysThatFoldAlike) {
         }
         document[key] = json::Value(key);
     }
-    EXPECT_EQ(combinedDocument(document), R"({"ABCDEF":"ABCDEF","Z":"last"})");
+    EXPECT_EQ(CombinedDocument(document).text(), R"({"ABCDEF":"ABCDEF","Z":"last"})");
 }
 
 TEST(CombinedDocument, KeepsTypeBesideKeysThatFoldToIt) {
@@ -67,6 +67,23 @@ TEST(CombinedDocument, WritesLeavesAsTheLibraryDoes) {
     EXPECT_EQ(written(R"({"a":"x/\"\u00e9\t","b":0.1,"c":1e2,"d":null,"e":true,"f":1e300})"),
               "{\"a\":\"x\\/\\\"\u00e9\\t\",\"b\":0.10000000000000001,\"c\":100,\"d\":null,"
               "\"e\":true,\"f\":1.0000000000000001e+300}");
+}
+
+TEST(CombinedDocument, HasFurtherPluginsInTheirPlaces) {
+    const PluginTexts further = {{"b", "[b]"}, {"type", "[type]"}, {"z", "[z]"}};
+    EXPECT_EQ(CombinedDocument(objectOf(R"({"plugins":{},"a":{"plugins":{}}})"), further).text(),
+              R"({"a":{"plugins":{}},"plugins":{"type":[type],"b":[b],"z":[z]}})");
+    EXPECT_EQ(
+        CombinedDocument(objectOf(R"({"plugins":{"C":{"x":1},"a":2},"v":3})"), further).text(),
+        R"({"plugins":{"type":[type],"a":2,"b":[b],"C":{"x":1},"z":[z]},"v":3})");
+}
+
+TEST(CombinedDocument, KeepsTheFirstInByteOrderOfFurtherPluginsAndOthers) {
+    const PluginTexts further = {{"A_b", "[A_b]"}, {"c", "[c]"}};
+    EXPECT_EQ(CombinedDocument(objectOf(R"({"plugins":{"A.B":1,"C":2}})"), further).text(),
+              R"({"plugins":{"A.B":1,"C":2}})");
+    EXPECT_EQ(CombinedDocument(objectOf(R"({"plugins":{"a_b":1,"d":2}})"), further).text(),
+              R"({"plugins":{"A_b":[A_b],"c":[c],"d":2}})");
 }
 
 TEST(CombinedDocument, WritesTheDeepestDocument) {

@@ -45,6 +45,21 @@ TEST_F(TextFile, WritingTruncates) {
     EXPECT_EQ(read(), "short");
 }
 
+TEST_F(TextFile, PiecesAreWrittenOneBehindTheOther) {
+    std::string text;
+    {
+        const File file = openForWriting(path.c_str());
+        PieceWriter writer(file.get());
+        for (const std::size_t length : {3U, 0U, 65'000U, 1'000U, 200'000U, 1U}) {
+            const std::string piece(length, static_cast<char>('a' + length % 26));
+            writer.append(piece);
+            text += piece;
+        }
+        writer.finish();
+    }
+    EXPECT_EQ(read(), text);
+}
+
 TEST_F(TextFile, AMissingFileOrFolderCanNotBeOpened) {
     EXPECT_EQ(openForReading(path.c_str()), nullptr);
     EXPECT_EQ(openForWriting((path + "/in/no/folder").c_str()), nullptr);
