@@ -1,20 +1,20 @@
 #include "combine/live_document.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "metadata/parameter_description.h"
 #include "metadata/parameter_type.h"
-#include "support/byte_set.h"
+#include "support/special_bytes.h"
 
 namespace metagen {
 
 namespace {
 
-/// What a name may consist of to mean the same within the quotes of a JSON text.
-constexpr ByteSet standsForItself([](unsigned char byte) {
-    return byte >= 0x20 && byte != '"' && byte != '\\';
-});
+/// Whether the name means the same within the quotes of a JSON text.
+bool standsForItself(std::string_view name) {
+    const char* const end = name.data() + name.size();
+    return findSpecial<'"', '\\'>(name.data(), end) == end;
+}
 
 json::Value text(std::string_view content) { return json::Value(std::string(content)); }
 
@@ -88,9 +88,9 @@ bool NamedPlugins::contains(const std::string& plugin) const {
 
 void LiveDocumentBuilder::add(std::string className, PluginRecord plugin) {
     if (names.contains(className)) return;
-    faithful = faithful && std::ranges::all_of(className, standsForItself);
+    faithful = faithful && standsForItself(className);
     for (const auto& [name, parameter] : plugin.parameters) {
-        faithful = faithful && std::ranges::all_of(name, standsForItself);
+        faithful = faithful && standsForItself(name);
         if (!hasTypeName(parameter.code)) namelessCode = parameter.code;
     }
     if (namelessCode) plugin.parameters.clear();  // the document will not be finished

@@ -1,8 +1,6 @@
 #include "support/escaped_text.h"
 
-#include <algorithm>
-
-#include "support/byte_set.h"
+#include "support/special_bytes.h"
 
 namespace metagen {
 
@@ -22,11 +20,6 @@ char shortEscape(char byte) {
     }
 }
 
-/// The bytes that stand for themselves. A NUL is none of them.
-constexpr ByteSet plainBytes([](unsigned char byte) {
-    return byte >= 0x20 && byte != '"' && byte != '\\';
-});
-
 void appendEscapedByte(std::string& out, char byte) {
     constexpr char hexadecimal[] = "0123456789abcdef";
     if (const char letter = shortEscape(byte); letter != '\0') {
@@ -43,11 +36,12 @@ void appendEscapedByte(std::string& out, char byte) {
 }  // namespace
 
 void appendEscaped(std::string& out, std::string_view text) {
-    auto rest = text.begin();
+    const char* rest = text.data();
+    const char* const end = rest + text.size();
     while (true) {
-        const auto special = std::find_if_not(rest, text.end(), plainBytes);
+        const char* const special = findSpecial<'"', '\\'>(rest, end);
         out.append(rest, special);
-        if (special == text.end() || *special == '\0') return;
+        if (special == end || *special == '\0') return;
         appendEscapedByte(out, *special);
         rest = special + 1;
     }

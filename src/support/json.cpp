@@ -6,8 +6,8 @@
 #include <iterator>
 #include <utility>
 
-#include "support/byte_set.h"
 #include "support/json_input.h"
+#include "support/special_bytes.h"
 #include "support/standard_errors.h"
 
 namespace metagen::json {
@@ -58,11 +58,6 @@ private:
     std::size_t remaining;
     bool& numberOverflow;
 };
-
-/// What the library's serialisation shows unescaped.
-constexpr ByteSet unescaped([](unsigned char byte) {
-    return byte >= 0x20 && byte != '"' && byte != '\\' && byte != '/' && byte != 0x7F;
-});
 
 }  // namespace
 
@@ -124,16 +119,17 @@ void appendCompactText(std::string& out, const Value& value) {
     value.serialize(std::back_inserter(out));
 }
 
-/// In runs of bytes that need no escape.
+/// In runs of bytes that the library would not escape.
 void appendCompactText(std::string& out, std::string_view text) {
     picojson::serialize_str_char<std::back_insert_iterator<std::string>> appendByte = {
         std::back_inserter(out)};
     out += '"';
-    auto rest = text.begin();
+    const char* rest = text.data();
+    const char* const end = rest + text.size();
     while (true) {
-        const auto special = std::find_if_not(rest, text.end(), unescaped);
+        const char* const special = findSpecial<'"', '\\', '/', '\x7f'>(rest, end);
         out.append(rest, special);
-        if (special == text.end()) break;
+        if (special == end) break;
         appendByte(*special);
         rest = special + 1;
     }

@@ -9,7 +9,7 @@
 
 #include <picojson.h>
 
-#include "support/byte_set.h"
+#include "support/special_bytes.h"
 
 namespace metagen::json {
 
@@ -64,7 +64,7 @@ public:
     /// backslash or a control character.
     std::string_view takePlain() {
         const char* const start = position;
-        position = std::find_if_not(position, end, isPlain);
+        position = metagen::findSpecial<'"', '\\'>(position, end);
         previous = position;
         return {start, static_cast<std::size_t>(position - start)};
     }
@@ -73,10 +73,6 @@ private:
     static bool isBlank(char byte) {
         return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
     }
-
-    /// The bytes that stand for themselves within a string.
-    static constexpr metagen::ByteSet isPlain{
-        [](unsigned char byte) { return byte >= 0x20 && byte != '"' && byte != '\\'; }};
 
     const char* begin;
     const char* position;
