@@ -16,8 +16,8 @@ const PluginTexts noTexts;
 /// A member of an object that is being written: a value, or its text where that is ready.
 struct Member {
     std::string_view key;
-    const json::Value* value;
-    const std::string* text;
+    const json::Value* value = nullptr;
+    const std::string* text = nullptr;
 };
 
 bool memberLess(const Member& left, const Member& right) {

@@ -38,7 +38,7 @@ AColor readColor(const std::string& text) {
 void keep(ParamEntry& entry, const std::string& kind, DefaultValue value) {
     entry.handlerState = 1;
     entry.typeName = &kind;
-    entry.defaultValue = std::move(value);
+    entry.defaultValue = value;
 }
 
 void readTextureFrame(const Companions& companions, bool isColor, ParamEntry& entry) {
