@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "metadata/base_document.h"
 #include "metadata/parameter_description.h"
 #include "metadata/parameter_type.h"
 #include "support/special_bytes.h"
@@ -41,7 +42,8 @@ json::Value pluginValue(PluginRecord plugin, std::string& buffer) {
     return json::Value(std::move(members));
 }
 
-void appendParameter(std::string& out, const ParameterDescription& description) {
+/// Appends what a combined document has of `parameterValue`.
+void appendCombinedParameter(std::string& out, const ParameterDescription& description) {
     out += "{\"type\":";
     json::appendCompactText(out, description.type);
     if (description.defaultText) {
@@ -53,26 +55,6 @@ void appendParameter(std::string& out, const ParameterDescription& description) 
         json::appendCompactText(out, description.listType);
     }
     out += '}';
-}
-
-/// Appends what a combined document has of `pluginValue`. The parameters come in its order.
-void appendPlugin(std::string& out, const PluginRecord& plugin, std::string& buffer) {
-    out += "{\"type\":";
-    if (plugin.category) {
-        json::appendCompactText(out, *plugin.category);
-    } else {
-        out += "null";
-    }
-    out += ",\"params\":{";
-    const char* separator = "\"";
-    for (const auto& [name, parameter] : plugin.parameters) {
-        out += separator;
-        out += name;
-        out += "\":";
-        appendParameter(out, describe(parameter, buffer));
-        separator = ",\"";
-    }
-    out += "}}";
 }
 
 }  // namespace
@@ -99,7 +81,7 @@ void LiveDocumentBuilder::add(std::string className, PluginRecord plugin) {
         names.insert(plugins.emplace(std::move(className), std::move(value)).first->first);
     } else {
         pluginBuffer.clear();
-        appendPlugin(pluginBuffer, plugin, defaultTextBuffer);
+        appendPlugin(pluginBuffer, plugin, appendCombinedParameter, defaultTextBuffer);
         // A copy of the text, which takes no more room than it needs.
         names.insert(otherPlugins.emplace(std::move(className), pluginBuffer).first->first);
     }

@@ -14,27 +14,6 @@ namespace {
 
 std::int32_t codeOf(const NamedParameter& parameter) { return parameter.record.code; }
 
-void appendPlugin(std::string& out, const PluginRecord& plugin, std::string& defaultTextBuffer) {
-    out += "{\"type\":";
-    if (plugin.category) {
-        out += '"';
-        out += *plugin.category;
-        out += '"';
-    } else {
-        out += "null";
-    }
-    out += ",\"params\":{";
-    const char* separator = "\"";
-    for (const auto& [name, parameter] : plugin.parameters) {
-        out += separator;
-        out += name;  // deliberately as it is, like the names of classes
-        out += "\":";
-        appendParameter(out, describe(parameter, defaultTextBuffer));
-        separator = ",\"";
-    }
-    out += "}}";
-}
-
 }  // namespace
 
 void BaseDocument::add(std::string className, const PluginRecord& plugin) {
@@ -46,7 +25,7 @@ void BaseDocument::add(std::string className, const PluginRecord& plugin) {
         return;
     }
     objectBuffer.clear();
-    appendPlugin(objectBuffer, plugin, defaultTextBuffer);
+    appendPlugin(objectBuffer, plugin, appendParameter, defaultTextBuffer);
     place->second = objectBuffer;  // a copy, which takes no more room than the text needs
 }
 
@@ -85,6 +64,28 @@ BaseDocument readBaseDocument(const Renderer& renderer) {
         document.add(std::move(className), plugin);
     });
     return document;
+}
+
+void appendPlugin(std::string& out, const PluginRecord& plugin, ParameterWriter appendOne,
+                  std::string& defaultTextBuffer) {
+    out += "{\"type\":";
+    if (plugin.category) {
+        out += '"';
+        out += *plugin.category;
+        out += '"';
+    } else {
+        out += "null";
+    }
+    out += ",\"params\":{";
+    const char* separator = "\"";
+    for (const auto& [name, parameter] : plugin.parameters) {
+        out += separator;
+        out += name;  // deliberately as it is, like the names of classes
+        out += "\":";
+        appendOne(out, describe(parameter, defaultTextBuffer));
+        separator = ",\"";
+    }
+    out += "}}";
 }
 
 void appendParameter(std::string& out, const ParameterDescription& parameter) {

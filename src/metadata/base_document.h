@@ -42,7 +42,15 @@ private:
 /// Asks the renderer about everything. Ends and throws like `visitPlugins`.
 BaseDocument readBaseDocument(const Renderer& renderer);
 
-/// Appends the object of one parameter.
+/// Appends the object of a parameter.
+using ParameterWriter = void (*)(std::string& out, const ParameterDescription& parameter);
+
+/// Appends the object of a plugin: its category and its parameters, each by the writer, which is
+/// where the base and the combined document differ. The buffer can serve for many plugins.
+void appendPlugin(std::string& out, const PluginRecord& plugin, ParameterWriter appendOne,
+                  std::string& defaultTextBuffer);
+
+/// The writer of the base document.
 void appendParameter(std::string& out, const ParameterDescription& parameter);
 
 }  // namespace metagen
