@@ -1,6 +1,7 @@
 // The order in which the base and the combined document list plugins, parameters and keys.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace metagen {
@@ -14,5 +15,9 @@ struct CombinedKeyLess {
 
     bool operator()(std::string_view left, std::string_view right) const;
 };
+
+/// A number that makes most comparisons of many keys short: where those of two keys differ, the
+/// keys are in the order of the numbers. Where they are equal, `CombinedKeyLess` has to tell.
+std::uint64_t combinedKeyPrefix(std::string_view key);
 
 }  // namespace metagen

@@ -1,8 +1,6 @@
 #include "metadata/live_metadata.h"
 
 #include <algorithm>
-#include <array>
-#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -19,11 +17,11 @@ namespace {
 /// The SDK's element count of a parameter that is no list: all bits set.
 constexpr std::uint32_t noList = 0xFFFFFFFFU;
 
-/// Codes of what the SDK lists among the parameters but no host can set.
-constexpr std::array<std::int32_t, 7> unrecordedCodes = {1000, 1001, 1002, 1003, 1004, 1005, 10000};
-
+/// Not what the SDK lists among the parameters although no host can set it, nor what has no type.
 bool isRecorded(std::int32_t code) {
-    return std::ranges::find(unrecordedCodes, code) == unrecordedCodes.end();
+    constexpr std::int32_t firstUnset = 1000;
+    constexpr std::int32_t lastUnset = 1005;
+    return (code < firstUnset || code > lastUnset) && code != type_code::unspecified;
 }
 
 ParameterRecord buildParameter(const void* definition, std::int32_t code) {
@@ -36,15 +34,23 @@ ParameterRecord buildParameter(const void* definition, std::int32_t code) {
 
 /// For each name its place among the different ones, in the combined order.
 std::vector<std::size_t> placesInOrder(const std::vector<std::string>& names) {
-    std::vector<std::size_t> order(names.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    const auto nameOf = [&names](std::size_t index) { return std::string_view(names[index]); };
-    std::ranges::sort(order, CombinedKeyLess(), nameOf);
+    struct Key {
+        std::uint64_t prefix;
+        std::size_t index;
+    };
+    std::vector<Key> order;
+    order.reserve(names.size());
+    for (const std::string& name : names) order.push_back({combinedKeyPrefix(name), order.size()});
+    const auto less = [&names](const Key& left, const Key& right) {
+        if (left.prefix != right.prefix) return left.prefix < right.prefix;
+        return CombinedKeyLess()(names[left.index], names[right.index]);
+    };
+    std::ranges::sort(order, less);
     std::vector<std::size_t> places(names.size());
     std::size_t place = 0;
     for (std::size_t i = 1; i < order.size(); ++i) {
-        if (CombinedKeyLess()(nameOf(order[i - 1]), nameOf(order[i]))) ++place;
-        places[order[i]] = place;
+        if (less(order[i - 1], order[i])) ++place;
+        places[order[i].index] = place;
     }
     return places;
 }

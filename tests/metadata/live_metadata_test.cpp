@@ -85,6 +85,25 @@ TEST(LiveMetadata, SomeTypeCodesAreNotRecordedAndKeepNoName) {
     EXPECT_EQ(std::ranges::count(sdk.calls, "default x"), 0);
 }
 
+TEST(LiveMetadata, TheTypeCodesAroundThemAreRecorded) {
+    std::vector<FakeParameter> parameters;
+    for (const std::int32_t code : {-1, 0, 999, 1006, 9999, 10001}) {
+        parameters.push_back(integer("x", code));
+        parameters.back().name = std::to_string(code);
+        parameters.back().code = code;
+    }
+    FakeSdk sdk;
+    sdk.classes = {{.name = "A", .parameters = parameters}};
+    std::vector<std::string> recorded;
+    visitPlugins(Renderer(), [&recorded](const std::string& /*className*/, const PluginRecord& plugin) {
+        for (const NamedParameter& parameter : plugin.parameters) {
+            recorded.push_back(parameter.name);
+            EXPECT_EQ(std::to_string(parameter.record.code), parameter.name);
+        }
+    });
+    EXPECT_EQ(recorded, (std::vector<std::string>{"-1", "0", "10001", "1006", "999", "9999"}));
+}
+
 TEST(LiveMetadata, AnEqualNameIsAskedAboutUntilOneIsRecorded) {
     FakeParameter unrecorded = integer("a_b", 1);
     unrecorded.code = 1000;
