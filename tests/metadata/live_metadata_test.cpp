@@ -95,12 +95,13 @@ TEST(LiveMetadata, TheTypeCodesAroundThemAreRecorded) {
     FakeSdk sdk;
     sdk.classes = {{.name = "A", .parameters = parameters}};
     std::vector<std::string> recorded;
-    visitPlugins(Renderer(), [&recorded](const std::string& /*className*/, const PluginRecord& plugin) {
-        for (const NamedParameter& parameter : plugin.parameters) {
-            recorded.push_back(parameter.name);
-            EXPECT_EQ(std::to_string(parameter.record.code), parameter.name);
-        }
-    });
+    visitPlugins(Renderer(),
+                 [&recorded](const std::string& /*className*/, const PluginRecord& plugin) {
+                     for (const NamedParameter& parameter : plugin.parameters) {
+                         recorded.push_back(parameter.name);
+                         EXPECT_EQ(std::to_string(parameter.record.code), parameter.name);
+                     }
+                 });
     EXPECT_EQ(recorded, (std::vector<std::string>{"-1", "0", "10001", "1006", "999", "9999"}));
 }
 
