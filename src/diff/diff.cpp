@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "diff/object_difference.h"
-#include "support/json_file.h"
+#include "json/document.h"
 #include "support/process_end.h"
 #include "support/text_file.h"
 
@@ -27,12 +27,12 @@ void diff(const char* leftPath, const char* rightPath, const char* outputPath) {
     requireOrExit(output != nullptr, "Could not open output file");
 
     // The two small initials are deliberate: scripts look for these messages.
-    const json::Value& left = json::parseFileOrExit(std::move(leftFile), leftNotOpened,
-                                                    "the left given json has errors inside");
-    const json::Value& right = json::parseFileOrExit(std::move(rightFile), rightNotOpened,
-                                                     "the right given json has errors inside");
-    const json::Object& leftObject = json::objectOrExit(left, noObject);
-    const json::Object& rightObject = json::objectOrExit(right, noObject);
+    const json::Document left(readOrExit(std::move(leftFile), leftNotOpened));
+    requireOrExit(left.isValid(), "the left given json has errors inside");
+    const json::Document right(readOrExit(std::move(rightFile), rightNotOpened));
+    requireOrExit(right.isValid(), "the right given json has errors inside");
+    const json::Object leftObject = json::objectOrExit(left.root(), noObject);
+    const json::Object rightObject = json::objectOrExit(right.root(), noObject);
 
     std::string report;
     diffObjects(leftObject, rightObject, report, "");

@@ -7,47 +7,44 @@ namespace metagen {
 
 namespace {
 
-using Member = json::Object::value_type;
-
 class ObjectDifference {
 public:
     ObjectDifference(std::string& report, std::string start)
         : out(report), path(std::move(start)) {}
 
     /// Walks both objects side by side, which have their members in the same order.
-    void compare(const json::Object& left, const json::Object& right) {
+    void compare(json::Object left, json::Object right) {
         auto leftMember = left.begin();
         auto rightMember = right.begin();
         while (leftMember != left.end() || rightMember != right.end()) {
             const bool rightDone = rightMember == right.end();
             const bool leftDone = leftMember == left.end();
-            if (rightDone || (!leftDone && leftMember->first < rightMember->first)) {
-                reportLonely(*leftMember++, " is only present on left side\n");
-            } else if (leftDone || rightMember->first < leftMember->first) {
-                reportLonely(*rightMember++, " is only present on right side\n");
+            if (rightDone || (!leftDone && leftMember->key < rightMember->key)) {
+                reportLonely((leftMember++)->key, " is only present on left side\n");
+            } else if (leftDone || rightMember->key < leftMember->key) {
+                reportLonely((rightMember++)->key, " is only present on right side\n");
             } else {
-                compareMembers(*leftMember++, (rightMember++)->second);
+                compareMembers(*leftMember++, (rightMember++)->value);
             }
         }
     }
 
 private:
-    void reportLonely(const Member& member, std::string_view text) {
-        appendPath(member.first);
+    void reportLonely(std::string_view name, std::string_view text) {
+        appendPath(name);
         out += text;
     }
 
-    void compareMembers(const Member& left, const json::Value& right) {
-        const json::Value& value = left.second;
-        if (value.is<json::Object>() && right.is<json::Object>()) {
+    void compareMembers(const json::Member& left, const json::Value& right) {
+        if (left.value.isObject() && right.isObject()) {
             const std::size_t length = path.size();
-            path.append(1, ':').append(left.first);
-            compare(json::asObject(value), json::asObject(right));
+            path.append(1, ':').append(left.key);
+            compare(*left.value.object(), *right.object());
             path.resize(length);
-        } else if (value != right) {
-            appendPath(left.first);
+        } else if (left.value != right) {
+            appendPath(left.key);
             out += " different values are ";
-            json::appendCompactText(out, value);
+            json::appendCompactText(out, left.value);
             out += " and ";
             json::appendCompactText(out, right);
             out += '\n';
@@ -62,8 +59,7 @@ private:
 
 }  // namespace
 
-void diffObjects(const json::Object& left, const json::Object& right, std::string& out,
-                 const std::string& path) {
+void diffObjects(json::Object left, json::Object right, std::string& out, const std::string& path) {
     ObjectDifference(out, path).compare(left, right);
 }
 

@@ -3,14 +3,13 @@
 
 #include <string>
 
-#include "support/json.h"
+#include "json/value.h"
 
 namespace metagen {
 
 /// Appends a line for each member that differs, in byte order of the names and depth first. The
 /// path names the two objects: ":" and the name for every level, empty at the top. Members that
 /// are objects on both sides are walked; all others, arrays included, are compared whole.
-void diffObjects(const json::Object& left, const json::Object& right, std::string& out,
-                 const std::string& path);
+void diffObjects(json::Object left, json::Object right, std::string& out, const std::string& path);
 
 }  // namespace metagen

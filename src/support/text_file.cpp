@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "support/process_end.h"
+
 namespace metagen {
 
 void FileCloser::operator()(std::FILE* file) const noexcept {
@@ -23,6 +25,17 @@ std::optional<FileText> readAll(std::FILE* file) {
         wanted = text.size;  // a file without a size is read in doubling steps
     } while (text.size == capacity);
     if (std::ferror(file) != 0) return std::nullopt;
+    return text;
+}
+
+std::string readOrExit(File file, const std::string& message) {
+    std::string text(sizeOf(file.get()) + 1, '\0');  // one more, so that the end shows at once
+    std::size_t size = 0;
+    while ((size += std::fread(&text[size], 1, text.size() - size, file.get())) == text.size()) {
+        text.resize(2 * text.size());  // it has grown, or is of no known size
+    }
+    requireOrExit(std::ferror(file.get()) == 0, "%s", message.c_str());
+    text.resize(size);
     return text;
 }
 

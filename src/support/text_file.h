@@ -42,6 +42,10 @@ private:
 /// The rest of the file from where it stands; nothing when reading fails.
 std::optional<FileText> readAll(std::FILE* file);
 
+/// The rest of the file, which is then closed. When reading fails, the message on standard error
+/// ends the process with status 1.
+std::string readOrExit(File file, const std::string& message);
+
 /// Writes the whole text. A full device goes unnoticed, as the tool's users know it.
 void writeAll(std::FILE* file, std::string_view text);
 

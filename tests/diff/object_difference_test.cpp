@@ -5,12 +5,16 @@
 #include <string>
 #include <string_view>
 
+#include "json/document.h"
+
 namespace metagen {
 namespace {
 
 std::string reportOf(std::string_view left, std::string_view right, const std::string& path = "") {
+    const json::Document leftDocument{std::string(left)};
+    const json::Document rightDocument{std::string(right)};
     std::string report;
-    diffObjects(json::asObject(*json::parse(left)), json::asObject(*json::parse(right)), report,
+    diffObjects(json::asObject(leftDocument.root()), json::asObject(rightDocument.root()), report,
                 path);
     return report;
 }
@@ -107,7 +111,8 @@ TEST(DiffObjects, WritesValuesAsTheJsonLibraryDoes) {
 
 TEST(DiffObjects, AppendsToTheReport) {
     std::string report = "before\n";
-    diffObjects(json::asObject(*json::parse(R"({"a":1})")), json::Object(), report, "");
+    const json::Document left(R"({"a":1})");
+    diffObjects(json::asObject(left.root()), json::Object(), report, "");
     EXPECT_EQ(report, "before\n:a is only present on left side\n");
 }
 
