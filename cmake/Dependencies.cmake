@@ -10,22 +10,6 @@ configure_file("${PICOJSON_INCLUDE_DIR}/picojson.h" "${picojson_alone}/picojson.
 add_library(picojson INTERFACE)
 target_include_directories(picojson SYSTEM INTERFACE "${picojson_alone}")
 
-# Making the trees of documents is mostly allocating. The allocator is linked into the tool alone,
-# never into the libraries; the sanitizers bring their own.
-option(METAGEN_JEMALLOC "Link the tool with jemalloc where it is installed" ON)
-if(METAGEN_JEMALLOC AND UNIX AND NOT METAGEN_SANITIZE)
-    find_package(Threads REQUIRED)
-    find_library(JEMALLOC_LIBRARY libjemalloc_pic.a DOC "Static library of jemalloc")
-endif()
-
-# metagen_link_allocator(<executable>)
-function(metagen_link_allocator executable)
-    if(JEMALLOC_LIBRARY)
-        target_sources(${executable} PRIVATE src/allocator_posix.cpp)
-        target_link_libraries(${executable} PRIVATE "${JEMALLOC_LIBRARY}" Threads::Threads m)
-    endif()
-endfunction()
-
 # Defines GTest::gtest and GTest::gtest_main: the system's libraries, or in a cross build, which has
 # none, libraries built from the sources that the system keeps.
 macro(metagen_find_googletest)

@@ -5,8 +5,7 @@
 #include "fuzz_target.h"
 #include "metadata/default_value_parser.h"
 #include "metadata/list_tokenizer.h"
-#include "support/number_prefix.h"
-#include "support/standard_errors.h"
+#include "support/number_reader.h"
 
 using namespace metagen;
 
@@ -65,7 +64,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     walkElements(copy);
     readSingles(copy);
     readLists(copy);
-    fuzz::runToItsEnd([](std::string_view text) { parseInteger(std::string(text)); }, copy);
-    fuzz::runToItsEnd([](std::string_view text) { parseFloat(std::string(text)); }, copy);
+    fuzz::runToItsEnd([](std::string_view text) { parseInteger(text); }, copy);
+    fuzz::runToItsEnd([](std::string_view text) { parseFloat(text); }, copy);
     return 0;
 }

@@ -6,57 +6,46 @@
 #include "genm/file_tables.h"
 #include "genm/registrations.h"
 #include "genm/scaling_table.h"
-#include "model/model_reader.h"
-#include "support/json.h"
-#include "support/numeric.h"
+#include "json/document.h"
+#include "model/handler_model.h"
+#include "model/meta_model.h"
 
 using namespace metagen;
 
 namespace {
 
-BinaryFile& binarySink() {
-    static BinaryFile sink("/dev/null", std::ios::binary);
-    return sink;
-}
-
-const json::Object& pluginsOf(const json::Value& document) {
-    return json::asObject(json::at(json::asObject(document), "plugins"));
-}
-
-void generateHandlers(const json::Object& plugins) {
-    const CombinedModel model = readCombinedModel(plugins, "handler");
+void generateHandlers(json::Object plugins) {
+    const std::vector<HandlerPlugin> handlers = readHandlers(plugins);
     std::string text;
-    appendHandlerStatements(text, model);
-    writeHandlerTable(binarySink(), 3, model);
-    fuzz::require(model.empty() == text.empty(), "every plugin has a statement");
+    appendHandlerStatements(text, handlers);
+    const std::string table = handlerTable(3, handlers);
+    fuzz::require(handlers.empty() == text.empty(), "every plugin has a statement");
+    fuzz::require(handlers.empty() == (table.size() == 12), "every plugin has a record");
 }
 
-void generateSideTables(const CombinedModel& model, std::string& text) {
+void generateMeta(json::Object plugins) {
+    const MetaModel model = readMeta(plugins);
+    ValueArrays arrays;
+    std::string source;
+    std::string table;
+    appendRegistrations(source, table, arrays, model);
     const FileTables files = collectFileTables(model);
     const ScalingTable scaling = collectScalingTable(model);
-    writeFileTable(binarySink(), files.files);
-    writeFileTable(binarySink(), files.inputFiles);
-    writeScalingTable(binarySink(), scaling, model);
-    appendFileTable(text, "m.fileParams", files.files);
-    appendFileTable(text, "m.inputFileParams", files.inputFiles);
-    appendScalingTable(text, scaling, model);
-}
-
-void generateMeta(const json::Object& plugins) {
-    const CombinedModel model = readCombinedModel(plugins, "meta");
-    ValueArrays arrays;
-    Registrations registrations;
-    fillRegistrations(registrations, arrays, model);
-    std::string& text = registrations.source;
-    generateSideTables(model, text);
-    appendDefinitions(text, arrays);
+    for (const FileTable& fileTable : {files.files, files.inputFiles}) {
+        appendFileRecords(table, fileTable);
+        appendFileTable(source, "m.fileParams", fileTable);
+    }
+    appendScalingRecords(table, scaling, model);
+    appendScalingTable(source, scaling, model);
+    appendDefinitions(source, arrays);
 }
 
 /// Each generator on its own: what one refuses, the other may take.
-template <void (*generate)(const json::Object& plugins)>
+template <void (*generate)(json::Object plugins)>
 void generateFrom(std::string_view text) {
-    if (const std::optional<json::Value> document = json::parse(text)) {
-        generate(pluginsOf(*document));
+    const json::Document document{std::string(text)};
+    if (document.isValid()) {
+        generate(json::asObject(json::at(json::asObject(document.root()), "plugins")));
     }
 }
 

@@ -105,11 +105,12 @@ std::int64_t CatalogueReader::instanceNamed(std::string_view name) {
 
 }  // namespace
 
-std::unique_ptr<Catalogue> readCatalogue(std::string_view text) {
-    int line = 0;
-    const std::optional<json::Value> document = json::parse(text, line);
-    if (!document) throw CatalogueError("line " + std::to_string(line) + ": not JSON");
-    return CatalogueReader(Item(*document)).read();
+std::unique_ptr<Catalogue> readCatalogue(std::string text) {
+    const json::Document document(std::move(text));
+    if (!document.isValid()) {
+        throw CatalogueError("line " + std::to_string(document.errorLine()) + ": not JSON");
+    }
+    return CatalogueReader(Item(document.root())).read();
 }
 
 }  // namespace metagen::replay

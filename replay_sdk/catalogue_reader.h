@@ -2,7 +2,7 @@
 #pragma once
 
 #include <memory>
-#include <string_view>
+#include <string>
 
 #include "replay_sdk/catalogue.h"
 
@@ -10,6 +10,6 @@ namespace metagen::replay {
 
 /// The catalogue that the text tells. Throws CatalogueError, whose text begins with the line of a
 /// syntax error or with the place of what is wrong.
-std::unique_ptr<Catalogue> readCatalogue(std::string_view text);
+std::unique_ptr<Catalogue> readCatalogue(std::string text);
 
 }  // namespace metagen::replay

@@ -110,13 +110,13 @@ std::string cataloguePath() {
     return path.empty() ? libraryFolder() + "catalogue.json" : path;
 }
 
-std::optional<FileText> readFile(const std::string& path) {
+std::optional<std::string> readFile(const std::string& path) {
     const File file = openBytesForReading(path);
     if (!file) {
         report(path, std::string("can't be opened: ") + std::strerror(errno));
         return std::nullopt;
     }
-    std::optional<FileText> text = readAll(file.get());
+    std::optional<std::string> text = readAll(file.get());
     if (!text) report(path, std::string("can't be read: ") + std::strerror(errno));
     return text;
 }
@@ -124,10 +124,10 @@ std::optional<FileText> readFile(const std::string& path) {
 /// The catalogue of the file; nothing after a report of what is wrong.
 std::unique_ptr<Catalogue> openCatalogue() {
     const std::string path = cataloguePath();
-    const std::optional<FileText> text = readFile(path);
+    std::optional<std::string> text = readFile(path);
     if (!text) return nullptr;
     try {
-        return readCatalogue(text->view());
+        return readCatalogue(std::move(*text));
     } catch (const CatalogueError& error) {
         report(path, error.what());
         return nullptr;

@@ -9,14 +9,14 @@ namespace metagen::replay {
 namespace {
 
 std::int32_t readKind(const Item& item) {
-    if (!item.isText()) return item.integer32();
+    if (!item.value.text().has_value()) return item.integer32();
     const std::optional<std::int32_t> kind = kindOf(item.text());
     if (!kind) item.fail("unknown kind \"" + item.text() + '"');
     return *kind;
 }
 
 std::uint8_t readByte(const Item& item) {
-    if (item.value.is<double>()) return static_cast<std::uint8_t>(item.integer(0, 255));
+    if (item.value.number()) return static_cast<std::uint8_t>(item.integer(0, 255));
     return item.boolean() ? 1 : 0;
 }
 

@@ -39,8 +39,7 @@ std::pair<std::int64_t, PluginInstance> readInstance(const Item& item, const Cat
     const auto [id, name, exists, className, propertyNames] = membersOf(item, memberNames);
     if (id == nullptr) item.fail("must have an \"id\"");
     PluginInstance instance;
-    if (name != nullptr && !name->is<picojson::null>())
-        instance.name = Item(item, "name", *name).text();
+    if (name != nullptr && !name->isNull()) instance.name = Item(item, "name", *name).text();
     if (exists != nullptr) instance.exists = Item(item, "exists", *exists).boolean();
     if (className != nullptr)
         instance.typeId = readClassName(Item(item, "class", *className), catalogue);

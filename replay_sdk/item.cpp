@@ -32,31 +32,31 @@ std::string Item::place() const {
 
 void Item::fail(const std::string& reason) const { throw CatalogueError(place() + ": " + reason); }
 
-const json::Object& Item::object() const {
-    if (!value.is<json::Object>()) fail("must be an object");
-    return json::asObject(value);
+json::Object Item::object() const {
+    if (const auto members = value.object()) return *members;
+    fail("must be an object");
 }
 
-const json::Array& Item::array() const {
-    if (!value.is<json::Array>()) fail("must be an array");
-    return value.get<json::Array>();
+json::Array Item::array() const {
+    if (const auto elements = value.array()) return *elements;
+    fail("must be an array");
 }
 
-const std::string& Item::text() const {
-    if (!isText()) fail("must be a text");
-    const std::string& text = json::asString(value);
-    if (text.find('\0') != std::string::npos) fail("the interface can't give a text with a NUL");
-    return text;
+std::string Item::text() const {
+    const auto text = value.text();
+    if (!text) fail("must be a text");
+    if (text->find('\0') != std::string::npos) fail("the interface can't give a text with a NUL");
+    return std::string(*text);
 }
 
 bool Item::boolean() const {
-    if (!value.is<bool>()) fail("must be true or false");
-    return value.get<bool>();
+    if (const auto boolean = value.boolean()) return *boolean;
+    fail("must be true or false");
 }
 
 double Item::number() const {
-    if (value.is<double>()) return value.get<double>();
-    const std::string_view word = isText() ? std::string_view(json::asString(value)) : "";
+    if (const auto number = value.number()) return *number;
+    const std::string_view word = value.text().value_or("");
     if (word == "inf") return std::numeric_limits<double>::infinity();
     if (word == "-inf") return -std::numeric_limits<double>::infinity();
     if (word == "nan") return std::numeric_limits<double>::quiet_NaN();
@@ -72,7 +72,7 @@ float Item::single() const {
 }
 
 std::int64_t Item::integer(std::int64_t lowest, std::int64_t highest) const {
-    const double exact = value.is<double>() ? value.get<double>() : 0.5;
+    const double exact = value.number().value_or(0.5);
     if (std::trunc(exact) == exact && exact >= static_cast<double>(lowest) &&
         exact <= static_cast<double>(highest))
         return toInt64(exact);
@@ -86,9 +86,8 @@ std::int32_t Item::integer32() const {
 
 std::int64_t Item::wideInteger() const {
     std::uint64_t bits = 0;
-    if (isText() && readHexadecimal(json::asString(value), bits))
-        return static_cast<std::int64_t>(bits);
-    const double exact = value.is<double>() ? value.get<double>() : firstInexactInteger;
+    if (readHexadecimal(value.text().value_or(""), bits)) return static_cast<std::int64_t>(bits);
+    const double exact = value.number().value_or(firstInexactInteger);
     if (std::trunc(exact) == exact && std::fabs(exact) < firstInexactInteger) return toInt64(exact);
     fail("must be an integer below 2^53, or a text like \"0xFFFF000000000005\"");
 }

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "support/json.h"
+#include "json/document.h"
 
 namespace metagen::replay {
 
@@ -35,13 +35,12 @@ public:
 
     [[noreturn]] void fail(const std::string& reason) const;
 
-    bool isNull() const { return value.is<picojson::null>(); }
-    bool isText() const { return value.is<std::string>(); }
+    bool isNull() const { return value.isNull(); }
 
     // The value as one kind; any other kind fails.
-    const json::Object& object() const;
-    const json::Array& array() const;
-    const std::string& text() const;  ///< fails on a text with a NUL in it, too
+    json::Object object() const;
+    json::Array array() const;
+    std::string text() const;  ///< fails on a text with a NUL in it, too
     bool boolean() const;
     double number() const;  ///< of the texts, "inf", "-inf", "nan" and "-nan" count as numbers
     float single() const;   ///< fails beyond the range of a float

@@ -80,7 +80,7 @@ std::unique_ptr<Guide> readGuide(const Item& item) {
     const auto [single, floats] = membersOf(item, names);
     auto guide = std::make_unique<Guide>();
     if (single != nullptr) guide->single = Item(item, names[0], *single).single();
-    if (floats == nullptr || floats->is<picojson::null>()) return guide;
+    if (floats == nullptr || floats->isNull()) return guide;
     guide->floats.emplace();
     Item(item, names[1], *floats).forEachElement([&](const Item& element) {
         guide->floats->push_back(element.single());

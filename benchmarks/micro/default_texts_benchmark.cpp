@@ -3,7 +3,7 @@
 
 #include "metadata/default_value_parser.h"
 #include "metadata/default_value_text.h"
-#include "metadata/parameter_type.h"
+#include "sdk/parameter_type.h"
 #include "support/standard_errors.h"
 
 namespace metagen {

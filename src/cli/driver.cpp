@@ -9,12 +9,12 @@
 #include "cli/options.h"
 #include "combine/combine.h"
 #include "diff/diff.h"
+#include "dump/dump.h"
 #include "genh/genh.h"
 #include "genm/genm.h"
-#include "metadata/dump.h"
 #include "sdk/exceptions.h"
 #include "sdk/sdk_session.h"
-#include "support/process_end.h"
+#include "support/end_run.h"
 
 namespace metagen {
 

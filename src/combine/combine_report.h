@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "support/json.h"
+#include "json/value.h"
 
 namespace metagen {
 
@@ -22,9 +22,9 @@ struct CombineReport {
     std::vector<std::string> duplications;
 
     /// The plugin and the parameter under which the merge stands. The parameter is empty when a
-    /// plugin begins and stays after the plugin's last one.
-    std::string currentPlugin;
-    std::string currentParameter;
+    /// plugin begins and stays after the plugin's last one. Both are the documents'.
+    std::string_view currentPlugin;
+    std::string_view currentParameter;
 
     /// Records a new "type" or "defaultValue"; a change of any other key is no news. The old text
     /// is empty for a key that the live document lacks.

@@ -1,7 +1,8 @@
 #include "combine/merge.h"
 
+#include <algorithm>
 #include <initializer_list>
-#include <utility>
+#include <vector>
 
 namespace metagen {
 
@@ -13,89 +14,88 @@ constexpr int parameterDepth = 3;
 
 class Merge {
 public:
-    explicit Merge(CombineReport& combineReport) : report(combineReport) {}
+    Merge(json::Arena& nodeArena, CombineReport& combineReport)
+        : arena(nodeArena), report(combineReport) {}
 
-    void mergeObject(json::Object& stripped, json::Object& live, int depth) {
-        for (auto member = stripped.begin(); member != stripped.end();) {
-            // Stepped over first: the member may move into the live object.
-            const auto here = member++;
-            enter(here->first, depth);
-            const auto place = live.lower_bound(here->first);
-            const bool isLive = place != live.end() && place->first == here->first;
-            if (isDeprecated(here->second, depth)) {
-                if (isLive) remove(live, place);
+    json::Object mergeObjects(json::Object stripped, json::Object live, int depth) {
+        const auto begin = static_cast<std::ptrdiff_t>(members.size());
+        auto next = live.begin();  // both have their members in the same order
+        for (const auto& [key, value] : stripped) {
+            enter(key, depth);
+            const auto place =
+                std::ranges::lower_bound(next, live.end(), key, {}, &json::Member::key);
+            members.insert(members.end(), next, place);
+            const bool isLive = place != live.end() && place->key == key;
+            next = isLive ? place + 1 : place;
+            if (isDeprecated(value, depth)) {
+                if (isLive) report.recordDeprecation();
             } else if (isLive) {
-                mergeValue(here->first, here->second, place->second, depth);
+                const json::Value merged = mergeValues(key, value, place->value, depth);
+                members.push_back({place->key, merged});
             } else {
-                recordNew(here->first, here->second, depth);
-                live.insert(place, stripped.extract(here));
+                recordNew(key, value, depth);
+                members.push_back({key, value});
             }
         }
+        members.insert(members.end(), next, live.end());
+        const json::Object merged =
+            arena.keep(json::Object(members.begin() + begin, members.end()));
+        members.erase(members.begin() + begin, members.end());
+        return merged;
     }
 
 private:
-    void enter(const std::string& key, int depth) {
+    void enter(std::string_view key, int depth) {
         if (depth == pluginDepth) {
             report.currentPlugin = key;
-            report.currentParameter.clear();
+            report.currentParameter = {};
         } else if (depth == parameterDepth) {
             report.currentParameter = key;
         }
     }
 
     static bool isDeprecated(const json::Value& value, int depth) {
-        return (depth == pluginDepth || depth == parameterDepth) && value.is<json::Null>();
+        return (depth == pluginDepth || depth == parameterDepth) && value.isNull();
     }
 
     static KeyLevel levelAt(int depth) {
         return depth < parameterDepth ? KeyLevel::plugin : KeyLevel::parameter;
     }
 
-    void remove(json::Object& live, json::Object::iterator member) {
-        live.erase(member);
-        report.recordDeprecation();
-    }
-
-    void mergeValue(const std::string& key, json::Value& stripped, json::Value& live, int depth) {
-        if (stripped.is<json::Object>()) {
-            mergeObject(json::asObject(stripped), json::asObject(live), depth + 1);
-            return;
+    json::Value mergeValues(std::string_view key, const json::Value& stripped,
+                            const json::Value& live, int depth) {
+        if (const auto object = stripped.object()) {
+            return json::Value(mergeObjects(*object, json::asObject(live), depth + 1));
         }
+        // Values are equal when their texts are, so 0 and -0 differ.
         const std::string liveText = json::compactText(live);
-        if (areEqual(stripped, live, liveText)) {
+        if (json::compactText(stripped) == liveText) {
             report.recordDuplication(key, liveText);
-        } else {
-            report.recordChange(key, levelAt(depth), stripped, liveText);
-            live = std::move(stripped);
+            return live;
         }
+        report.recordChange(key, levelAt(depth), stripped, liveText);
+        return stripped;
     }
 
-    /// Values are equal when their texts are, so 0 and -0 differ.
-    static bool areEqual(const json::Value& stripped, const json::Value& live,
-                         const std::string& liveText) {
-        const bool areTexts = stripped.is<std::string>() && live.is<std::string>();
-        return areTexts ? json::asString(stripped) == json::asString(live)
-                        : json::compactText(stripped) == liveText;
-    }
-
-    void recordNew(const std::string& key, const json::Value& stripped, int depth) {
-        if (!stripped.is<json::Object>()) {
-            report.recordChange(key, levelAt(depth), stripped, "");
-            return;
-        }
+    void recordNew(std::string_view key, const json::Value& stripped, int depth) {
+        const auto object = stripped.object();
+        if (!object) return report.recordChange(key, levelAt(depth), stripped, "");
         for (const char* recorded : {"type", "defaultValue"}) {
-            const json::Value* value = json::find(json::asObject(stripped), recorded);
+            const json::Value* value = json::find(*object, recorded);
             if (value != nullptr) report.recordChange(recorded, levelAt(depth), *value, "");
         }
     }
 
+    json::Arena& arena;
     CombineReport& report;
+    std::vector<json::Member> members;  ///< of all objects that are being merged
 };
 
 }  // namespace
 
-void merge(json::Object stripped, json::Object& live, CombineReport& report) {
-    Merge(report).mergeObject(stripped, live, 0);
+json::Object merge(json::Object stripped, json::Object live, json::Arena& arena,
+                   CombineReport& report) {
+    return Merge(arena, report).mergeObjects(stripped, live, 0);
 }
 
 }  // namespace metagen

@@ -1,24 +1,26 @@
 #include "combine/name_checks.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "metadata/default_value_parser.h"
-#include "metadata/parameter_type.h"
-#include "support/process_end.h"
+#include "sdk/parameter_type.h"
+#include "support/end_run.h"
 
 namespace metagen {
 
 namespace {
 
 /// The names in both objects, in byte order, each followed by a blank.
-std::string commonNames(const json::Object& params, const json::Object& userData) {
+std::string commonNames(json::Object params, json::Object userData) {
     std::string names;
     auto parameter = params.begin();
     auto entry = userData.begin();
     while (parameter != params.end() && entry != userData.end()) {
-        const int order = parameter->first.compare(entry->first);
-        if (order == 0) names += parameter->first + ' ';
+        const int order = parameter->key.compare(entry->key);
+        if (order == 0) names.append(parameter->key).append(1, ' ');
         if (order <= 0) ++parameter;
         if (order >= 0) ++entry;
     }
@@ -26,35 +28,36 @@ std::string commonNames(const json::Object& params, const json::Object& userData
 }
 
 std::string clashingNames(const json::Value& plugin) {
-    if (!plugin.is<json::Object>()) return "";
-    const json::Value* params = json::find(json::asObject(plugin), "params");
-    const json::Value* userData = json::find(json::asObject(plugin), "userData");
+    const auto members = plugin.object();
+    if (!members) return "";
+    const json::Value* params = json::find(*members, "params");
+    const json::Value* userData = json::find(*members, "userData");
     if (params == nullptr || userData == nullptr) return "";
     return commonNames(json::asObject(*params), json::asObject(*userData));
 }
 
 /// Whether the entry lacks the default value that its list type asks for. One walk along the
 /// members, because this is asked of every parameter of the document.
-bool lacksDefault(const json::Object& entry) {
-    const std::string* listType = nullptr;
+bool lacksDefault(json::Object entry) {
+    std::optional<std::string_view> listType;
     bool hasTypeOrDefault = false;
     for (const auto& [key, value] : entry) {
         if (key == "type" || key == "defaultValue") {
-            static_cast<void>(json::asString(value));  // anything but a text is a mismatch
+            static_cast<void>(json::asText(value));  // anything but a text is a mismatch
             hasTypeOrDefault = true;
         } else if (key == "listType") {
-            listType = &json::asString(value);
+            listType = json::asText(value);
         }
     }
-    if (hasTypeOrDefault || listType == nullptr) return false;
+    if (hasTypeOrDefault || !listType) return false;
     return hasDefaultValueReader(typeCode(*listType, ""));
 }
 
-void reportEntries(const std::string& plugin, const json::Object& entries) {
+void reportEntries(std::string_view plugin, json::Object entries) {
     for (const auto& [name, entry] : entries) {
         if (!lacksDefault(json::asObject(entry))) continue;
         // The spelling is deliberate: scripts look for it. There is no type and no value to show.
-        std::string line = plugin;
+        std::string line(plugin);
         line.append("::").append(name).append(" : Unexpected defautValue format for type  = \n");
         print(line);
     }
@@ -62,19 +65,19 @@ void reportEntries(const std::string& plugin, const json::Object& entries) {
 
 }  // namespace
 
-void checkNamesAndDefaults(const json::Object& document) {
-    const json::Object& plugins = json::asObject(json::at(document, "plugins"));
+void checkNamesAndDefaults(json::Object document) {
+    json::Object plugins = json::asObject(json::at(document, "plugins"));
     const bool clash = reportNameClashes(plugins);
     reportUnexpectedDefaults(plugins);
-    if (clash) exitWithStatus(brokenMetadataStatus);
+    if (clash) endRun(brokenMetadataStatus, "");
 }
 
-bool reportNameClashes(const json::Object& plugins) {
+bool reportNameClashes(json::Object plugins) {
     bool found = false;
     for (const auto& [name, plugin] : plugins) {
         const std::string names = clashingNames(plugin);
         if (names.empty()) continue;
-        std::string line = name;
+        std::string line(name);
         line.append(" has duplicated named param and userdata - ").append(names).append("\n");
         print(line);
         found = true;
@@ -82,7 +85,7 @@ bool reportNameClashes(const json::Object& plugins) {
     return found;
 }
 
-void reportUnexpectedDefaults(const json::Object& plugins) {
+void reportUnexpectedDefaults(json::Object plugins) {
     for (const auto& [name, plugin] : plugins) {
         for (const char* key : {"params", "userData"}) {
             const json::Value* entries = json::find(json::asObject(plugin), key);

@@ -6,36 +6,41 @@
 #include <string_view>
 #include <vector>
 
-#include "support/process_end.h"
+#include "model/handler_kinds.h"
+#include "support/end_run.h"
 
 namespace metagen {
 
 namespace {
 
-constexpr std::string_view colorHandler = "ColorTexFrameHandler";
-constexpr std::string_view floatHandler = "FloatTexFrameHandler";
+using handler_kind::color;
+using handler_kind::floatNumber;
 
-// User data is named for its parameter, followed by what it is to the handler. In the order in
-// which a name is matched against them.
-constexpr std::array<std::string_view, 6> suffixes = {"_color",  "_float",    "_tex",
-                                                      "_tex_on", "_tex_mult", "_res_mult"};
-constexpr std::size_t colorSuffix = 0;
-constexpr std::size_t floatSuffix = 1;
-constexpr std::size_t firstSharedSuffix = 2;  // from here on both handlers need all of them
+// What both handlers have for user data, in the order in which a name is matched against them.
+constexpr std::size_t colorValue = 0;
+constexpr std::size_t floatValue = 1;
+constexpr std::size_t firstShared = 2;  // from here on both need all of them
+constexpr auto suffixes = [] {
+    std::array<std::string_view, firstShared + color.expected.size()> all = {};
+    all[colorValue] = color.value;
+    all[floatValue] = floatNumber.value;
+    std::ranges::copy(color.expected, all.begin() + firstShared);
+    return all;
+}();
 
 /// For each suffix, whether the parameter has that user data.
-using Companions = std::array<bool, suffixes.size()>;
+using UserDataOfParameter = std::array<bool, suffixes.size()>;
 
-Companions findCompanions(const json::Object& userData, const std::string& parameter) {
-    Companions companions = {};
-    std::string name = parameter + '_';
-    const auto next = userData.lower_bound(name);
-    if (next == userData.end() || !next->first.starts_with(name)) return companions;
+UserDataOfParameter findUserData(json::Object userData, std::string_view parameter) {
+    UserDataOfParameter found = {};
+    std::string name = std::string(parameter) + '_';
+    const auto next = std::ranges::lower_bound(userData, name, {}, &json::Member::key);
+    if (next == userData.end() || !next->key.starts_with(name)) return found;
     for (std::size_t i = 0; i < suffixes.size(); ++i) {
         name.resize(parameter.size());
-        companions[i] = userData.contains(name.append(suffixes[i]));
+        found[i] = json::find(userData, name.append(suffixes[i])) != nullptr;
     }
-    return companions;
+    return found;
 }
 
 /// User data that looks like a handler's: the parameter and the suffix that its name is made of.
@@ -46,10 +51,10 @@ struct HandlerData {
 
 /// The first handler user data of each parameter name that any of it has, in the order of these
 /// names.
-std::vector<HandlerData> findHandlerData(const json::Object& userData) {
+std::vector<HandlerData> findHandlerData(json::Object userData) {
     std::vector<HandlerData> found;
-    for (const auto& member : userData) {
-        const std::string_view name = member.first;
+    for (const json::Member& member : userData) {
+        const std::string_view name = member.key;
         const auto suffix = std::ranges::find_if(
             suffixes, [name](std::string_view candidate) { return name.ends_with(candidate); });
         if (suffix == suffixes.end()) continue;
@@ -65,8 +70,8 @@ std::vector<HandlerData> findHandlerData(const json::Object& userData) {
 
 class PluginCheck {
 public:
-    PluginCheck(const std::string& pluginName, const json::Object& pluginParams,
-                const json::Object& pluginUserData, std::vector<std::string>& failureList)
+    PluginCheck(std::string_view pluginName, json::Object pluginParams, json::Object pluginUserData,
+                std::vector<std::string>& failureList)
         : plugin(pluginName),
           params(pluginParams),
           userData(pluginUserData),
@@ -74,9 +79,9 @@ public:
 
     void run() {
         for (const auto& [name, value] : params) checkParameter(name, value);
-        if (hasHandler && !userData.contains("texture_multiplier_mode")) {
+        if (hasHandler && json::find(userData, "texture_multiplier_mode") == nullptr) {
             // The double quote at the end is deliberate: it belongs to the known text.
-            failures.push_back(plugin +
+            failures.push_back(std::string(plugin) +
                                ": the plugin has float texture handler(s) but no "
                                "'texture_multiplier_mode' \"");
         }
@@ -84,96 +89,85 @@ public:
     }
 
 private:
-    void checkParameter(const std::string& name, const json::Value& value) {
-        const Companions companions = findCompanions(userData, name);
-        if (std::ranges::find(companions, true) == companions.end()) return;
+    void checkParameter(std::string_view name, const json::Value& value) {
+        const UserDataOfParameter found = findUserData(userData, name);
+        if (std::ranges::find(found, true) == found.end()) return;
         const json::Value* handler = json::find(json::asObject(value), "handler");
         if (handler == nullptr) {
-            record(name, "Userdata for handler exist, but no handler was defined");
-            return;
+            return record(name, "Userdata for handler exist, but no handler was defined");
         }
         hasHandler = true;
-        const auto shared = companions.begin() + firstSharedSuffix;
-        if (std::find(shared, companions.end(), false) != companions.end()) {
+        if (std::find(found.begin() + firstShared, found.end(), false) != found.end()) {
             record(name, "_tex_* user data is missing");
         }
-        if (companions[colorSuffix] == companions[floatSuffix]) {
-            record(name, "expecting exactly one " + name + "_float or " + name + "_color");
+        if (found[colorValue] == found[floatValue]) {
+            const std::string parameter(name);
+            record(name,
+                   "expecting exactly one " + parameter + "_float or " + parameter + "_color");
         }
-        if (handler->is<std::string>())
-            checkHandlerName(name, json::asString(*handler), companions);
+        // User data for a float wins over that for a colour.
+        if (found[floatValue]) return expectHandler(name, *handler, floatNumber);
+        if (found[colorValue]) return expectHandler(name, *handler, color);
     }
 
-    /// User data for a float wins over that for a colour.
-    void checkHandlerName(const std::string& name, const std::string& handler,
-                          const Companions& companions) {
-        if (companions[floatSuffix]) {
-            expectHandler(name, handler, floatHandler);
-        } else if (companions[colorSuffix]) {
-            expectHandler(name, handler, colorHandler);
-        }
-    }
-
-    void expectHandler(const std::string& name, const std::string& handler,
-                       std::string_view expected) {
-        if (handler == expected) return;
-        record(name, "mismatch handler type \"" + handler + "\", expecting \"" +
-                         std::string(expected) + '"');
+    void expectHandler(std::string_view name, const json::Value& handler,
+                       const HandlerKind& expected) {
+        const auto word = handler.text();
+        if (!word || *word == expected.word) return;
+        record(name, "mismatch handler type \"" + std::string(*word) + "\", expecting \"" +
+                         std::string(expected.word) + '"');
     }
 
     void checkHandlerData(const HandlerData& data) {
-        const std::string name(data.parameter);
+        const std::string_view name = data.parameter;
         const json::Value* parameter = json::find(params, name);
         if (parameter == nullptr) {
-            record(name, "Texture handler userdata seem to be defined: " + name +
-                             std::string(data.suffix));
-            return;
+            return record(name, std::string("Texture handler userdata seem to be defined: ")
+                                    .append(name)
+                                    .append(data.suffix));
         }
         const json::Value* handler = json::find(json::asObject(*parameter), "handler");
-        if (handler == nullptr) {
-            record(name, "Expecting a handler");
-        } else if (handler->is<std::string>()) {
-            checkSuffix(name, json::asString(*handler), data.suffix);
-        }
+        if (handler == nullptr) return record(name, "Expecting a handler");
+        if (const auto word = handler->text()) checkSuffix(name, *word, data.suffix);
     }
 
     /// "_color" comes first of all suffixes in byte order, then "_float". So the suffix at hand,
     /// which is the first, tells whether these two exist.
-    void checkSuffix(const std::string& name, const std::string& handler, std::string_view suffix) {
-        if (handler == colorHandler) {
-            if (suffix == suffixes[colorSuffix]) return;
+    void checkSuffix(std::string_view name, std::string_view handler, std::string_view suffix) {
+        if (handler == color.word) {
+            if (suffix == color.value) return;
             record(name, "Color texture frame handler defined, but no \"_color\" user data");
-        } else if (handler == floatHandler) {
-            if (suffix == suffixes[floatSuffix]) return;
+        } else if (handler == floatNumber.word) {
+            if (suffix == floatNumber.value) return;
             record(name, "Float texture frame handler defined, but no \"_float\" user data");
         } else {
             record(name, "Texture frame handler user data exist, but no handler defined");
         }
     }
 
-    void record(const std::string& name, const std::string& text) {
-        failures.push_back(plugin + "::" + name + ": " + text);
+    void record(std::string_view name, std::string_view text) {
+        failures.push_back(std::string(plugin).append("::").append(name).append(": ").append(text));
     }
 
-    const std::string& plugin;
-    const json::Object& params;
-    const json::Object& userData;
+    std::string_view plugin;
+    json::Object params;
+    json::Object userData;
     std::vector<std::string>& failures;
     bool hasHandler = false;
 };
 
 }  // namespace
 
-void checkTextureHandlers(const json::Object& document, CombineReport& report) {
+void checkTextureHandlers(json::Object document, CombineReport& report) {
     const json::Value* plugins = json::find(document, "plugins");
     if (plugins == nullptr) {
-        print("Combined Json has no Plugins!\n");
-        exitWithStatus(failureStatus);
+        endRun(failureStatus, "Combined Json has no Plugins!\n");
     }
     for (const auto& [name, plugin] : json::asObject(*plugins)) {
-        if (!plugin.is<json::Object>()) continue;
-        const json::Value* params = json::find(json::asObject(plugin), "params");
-        const json::Value* userData = json::find(json::asObject(plugin), "userData");
+        const auto members = plugin.object();
+        if (!members) continue;
+        const json::Value* params = json::find(*members, "params");
+        const json::Value* userData = json::find(*members, "userData");
         if (params == nullptr || userData == nullptr) continue;
         PluginCheck(name, json::asObject(*params), json::asObject(*userData),
                     report.handlerCheckFailures)

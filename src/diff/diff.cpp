@@ -5,7 +5,7 @@
 
 #include "diff/object_difference.h"
 #include "json/document.h"
-#include "support/process_end.h"
+#include "support/end_run.h"
 #include "support/text_file.h"
 
 namespace metagen {

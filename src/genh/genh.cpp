@@ -1,36 +1,31 @@
 #include "genh/genh.h"
 
-#include <ios>
 #include <string>
 #include <utility>
 
 #include "genh/handler_tables.h"
-#include "model/model_reader.h"
-#include "model/obstream.h"
-#include "support/json.h"
-#include "support/json_file.h"
+#include "json/document.h"
+#include "model/handler_model.h"
+#include "support/end_run.h"
 #include "support/number_text.h"
 #include "support/numeric.h"
-#include "support/process_end.h"
 #include "support/text_file.h"
 
 namespace metagen {
 
 namespace {
 
-constexpr const char* noObject = "JSON is not an object";
-
-double versionOrExit(const json::Object& document) {
-    const json::Value& version = json::at(document, "version");
-    requireOrExit(version.is<double>(), "There is no version in the combined file");
-    return version.get<double>();
+double versionOrExit(json::Object document) {
+    const auto version = json::at(document, "version").number();
+    requireOrExit(version.has_value(), "There is no version in the combined file");
+    return *version;
 }
 
-std::string sourceText(double version, const CombinedModel& model) {
+std::string sourceText(double version, const std::vector<HandlerPlugin>& plugins) {
     std::string text = "HandlerMeta m(";
     appendGeneral(text, version);
     text += ");\n";
-    appendHandlerStatements(text, model);
+    appendHandlerStatements(text, plugins);
     text += "\nreturn m;\n";
     return text;
 }
@@ -38,24 +33,25 @@ std::string sourceText(double version, const CombinedModel& model) {
 }  // namespace
 
 void genh(const char* inputPath, const char* outputBase) {
+    const std::string base = outputBase;
+    const std::string inputNotOpened = "Could not open the file - " + std::string(inputPath);
+    const char* const noObject = "JSON is not an object";
     File input = openForReading(inputPath);
-    requireOrExit(input != nullptr, "Could not open the file - %s", inputPath);
-    const File source = openForWriting((std::string(outputBase) + ".inl").c_str());
+    requireOrExit(input != nullptr, inputNotOpened);
+    const File source = openForWriting((base + ".inl").c_str());
     requireOrExit(source != nullptr, "Could not open the INL output file");
-    BinaryFile table(std::string(outputBase) + ".bin", std::ios::binary);
-    requireOrExit(table.is_open(), "Could not open the BIN output file");
+    const File table = openForWriting((base + ".bin").c_str(), "wb");
+    requireOrExit(table != nullptr, "Could not open the BIN output file");
 
-    const json::Value& value = json::parseFileOrExit(
-        std::move(input), "Could not open the file - " + std::string(inputPath),
-        "The given json file has errors inside");
-    const json::Object& document = json::objectOrExit(value, noObject);
-    const json::Object& plugins = json::objectOrExit(json::at(document, "plugins"), noObject);
+    const json::Document parsed(readOrExit(std::move(input), inputNotOpened));
+    requireOrExit(parsed.isValid(), "The given json file has errors inside");
+    const json::Object document = json::objectOrExit(parsed.root(), noObject);
+    const json::Object plugins = json::objectOrExit(json::at(document, "plugins"), noObject);
     const double version = versionOrExit(document);
 
-    const CombinedModel model = readCombinedModel(plugins, "handler");
-    const std::string text = sourceText(version, model);
-    writeHandlerTable(table, toInt32(version), model);
-    writeAll(source.get(), text);
+    const std::vector<HandlerPlugin> handlers = readHandlers(plugins);
+    writeAll(table.get(), handlerTable(toInt32(version), handlers));
+    writeAll(source.get(), sourceText(version, handlers));
 }
 
 }  // namespace metagen

@@ -4,19 +4,16 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
-#include "model/combined_model.h"
-#include "model/obstream.h"
+#include "model/handler_model.h"
 
 namespace metagen {
 
-/// Appends the statements of every plugin, an empty line before each. A parameter without a kind
-/// of handler_kind, which the reader never gives, is reported on standard output ("Missing ...",
-/// no line feed) and its line left unfinished.
-void appendHandlerStatements(std::string& out, const CombinedModel& model);
+/// Appends the statements of every plugin, an empty line before each.
+void appendHandlerStatements(std::string& out, const std::vector<HandlerPlugin>& plugins);
 
-/// Writes the table: tag, version, plugins. A parameter without a kind is reported in the same
-/// way, with nothing after its name.
-void writeHandlerTable(BinaryFile& out, std::int32_t version, const CombinedModel& model);
+/// The binary table: tag, version, plugins.
+std::string handlerTable(std::int32_t version, const std::vector<HandlerPlugin>& plugins);
 
 }  // namespace metagen

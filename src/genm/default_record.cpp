@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "genm/source_literal.h"
-#include "metadata/parameter_type.h"
+#include "model/binary_table.h"
+#include "sdk/parameter_type.h"
 #include "support/escaped_text.h"
 #include "support/number_text.h"
 
@@ -46,37 +46,30 @@ struct DefaultTextWriter {
     }
 };
 
-/// Writes what follows the kind, for a default of each kind.
+/// Appends what follows the kind, for a default of each kind.
 struct DefaultRecordWriter {
-    BinaryBuffer& records;
+    std::string& records;
 
-    void operator()(std::int32_t number) const { records.writeI32(number); }
-    void operator()(float number) const { records.writeF32(number); }
-    void operator()(std::string_view text) const { records.writeText(text); }
+    void operator()(std::int32_t number) const { appendI32(records, number); }
+    void operator()(float number) const { appendF32(records, number); }
+    void operator()(std::string_view text) const { appendText(records, text); }
     void operator()(const DescriptorOnly& record) const {
-        records.writeU32(record.descriptor->number);
+        appendU32(records, record.descriptor->number);
     }
-    void operator()(const IntegerArray& record) const { writeArray(record); }
-    void operator()(const FloatArray& record) const { writeArray(record); }
-
-    template <typename ValueArray>
-    void writeArray(const ValueArray& record) const {
-        records.writeU32(record.descriptor->number);
-        records.writeCount(record.values.size());
-        records.writeBytes(record.values);
+    void operator()(const auto& array) const {
+        appendU32(records, array.descriptor->number);
+        appendCount(records, array.values.size());
+        appendNumbers(records, array.values);
     }
 };
 
 }  // namespace
 
-DefaultRecord readDefault(const ParamEntry& parameter) {
-    const bool isList = parameter.isList == 1;
-    const std::int32_t code = typeCode(isList ? "list" : *parameter.typeName, *parameter.typeName);
-    const auto* text = std::get_if<const std::string*>(&parameter.defaultValue);
-    if (text != nullptr || isList) {
-        return readTypedDefault(code, text != nullptr ? *text : nullptr);
+DefaultRecord readDefault(const MetaParameter& parameter) {
+    if (parameter.defaultText || isListCode(parameter.code)) {
+        return readTypedDefault(parameter.code, parameter.defaultText);
     }
-    if (code == type_code::integer) return std::int32_t{0};
+    if (parameter.code == type_code::integer) return std::int32_t{0};
     return std::string_view();
 }
 
@@ -84,8 +77,8 @@ void appendDefault(std::string& out, DefaultRecord record, ValueArrays& groups) 
     std::visit(DefaultTextWriter{out, groups}, std::move(record));
 }
 
-void writeDefault(BinaryBuffer& records, const DefaultRecord& record) {
-    records.writeU32(static_cast<std::uint32_t>(record.index()));
+void appendDefaultRecord(std::string& records, const DefaultRecord& record) {
+    appendU32(records, static_cast<std::uint32_t>(record.index()));
     std::visit(DefaultRecordWriter{records}, record);
 }
 

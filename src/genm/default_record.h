@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -10,8 +11,7 @@
 
 #include "genm/descriptor.h"
 #include "genm/value_arrays.h"
-#include "model/combined_model.h"
-#include "model/obstream.h"
+#include "model/meta_model.h"
 
 namespace metagen {
 
@@ -38,21 +38,21 @@ struct FloatArray {
 using DefaultRecord =
     std::variant<std::int32_t, float, std::string_view, DescriptorOnly, IntegerArray, FloatArray>;
 
-/// Reads the default of a type. The text may be null, for none, only where the code is a list's.
+/// Reads the default of a type. There may be no text only where the code is a list's.
 /// Integers, bools, floats and float textures throw the errors of `parseInteger` and `parseFloat`.
 /// A code without a rule prints "unsupported type" and a line feed on standard output and ends the
 /// process with status -1.
-DefaultRecord readTypedDefault(std::int32_t code, const std::string* text);
+DefaultRecord readTypedDefault(std::int32_t code, std::optional<std::string_view> text);
 
 /// Reads the parameter's default. One that is no list and has no default text has the empty text,
 /// or 0 when it is an integer, and its type is not looked at any further.
-DefaultRecord readDefault(const ParamEntry& parameter);
+DefaultRecord readDefault(const MetaParameter& parameter);
 
 /// Appends the default as generated source: a literal, or a descriptor and, where there are values,
 /// the name of the array that holds them.
 void appendDefault(std::string& out, DefaultRecord record, ValueArrays& groups);
 
-/// Writes the binary record. It carries the values themselves, not the arrays' names.
-void writeDefault(BinaryBuffer& records, const DefaultRecord& record);
+/// Appends the binary record. It carries the values themselves, not the arrays' names.
+void appendDefaultRecord(std::string& records, const DefaultRecord& record);
 
 }  // namespace metagen

@@ -3,20 +3,22 @@
 #include <array>
 
 #include "genm/default_record.h"
-#include "genm/stop.h"
 #include "metadata/default_value_parser.h"
-#include "metadata/parameter_type.h"
-#include "support/standard_errors.h"
+#include "sdk/parameter_type.h"
+#include "support/end_run.h"
+#include "support/number_reader.h"
 
 namespace metagen {
 
 namespace {
 
+using DefaultText = std::optional<std::string_view>;
+
 /// One type. A list without a default, or whose default is refused, has its fallback descriptor
 /// alone; a list text without elements is a list all the same unless the rule says otherwise.
 struct DefaultRule {
     std::int32_t code;
-    DefaultRecord (*read)(const DefaultRule& rule, const std::string* text);
+    DefaultRecord (*read)(const DefaultRule& rule, DefaultText text);
     const Descriptor* descriptor = nullptr;  ///< of the values that were read
     std::string_view prefix = {};            ///< of the arrays that hold them
     const Descriptor* fallback = nullptr;
@@ -27,28 +29,22 @@ constexpr bool emptyFallsBack = true;
 
 constexpr std::string_view noText;
 
-DefaultRecord readInteger(const DefaultRule& /*rule*/, const std::string* text) {
+DefaultRecord readInteger(const DefaultRule& /*rule*/, DefaultText text) {
     return std::int32_t{parseInteger(*text)};
 }
 
-DefaultRecord readFloat(const DefaultRule& /*rule*/, const std::string* text) {
-    return parseFloat(*text);
-}
+DefaultRecord readFloat(const DefaultRule& /*rule*/, DefaultText text) { return parseFloat(*text); }
 
-DefaultRecord readText(const DefaultRule& /*rule*/, const std::string* text) {
-    return std::string_view(*text);
-}
+DefaultRecord readText(const DefaultRule& /*rule*/, DefaultText text) { return *text; }
 
-DefaultRecord readNothing(const DefaultRule& /*rule*/, const std::string* /*text*/) {
-    return noText;
-}
+DefaultRecord readNothing(const DefaultRule& /*rule*/, DefaultText /*text*/) { return noText; }
 
-DefaultRecord readDescriptor(const DefaultRule& rule, const std::string* /*text*/) {
+DefaultRecord readDescriptor(const DefaultRule& rule, DefaultText /*text*/) {
     return DescriptorOnly{rule.descriptor};
 }
 
 template <std::size_t count, bool (*parse)(std::string_view, std::span<float, count>)>
-DefaultRecord readComponents(const DefaultRule& rule, const std::string* text) {
+DefaultRecord readComponents(const DefaultRule& rule, DefaultText text) {
     std::array<float, count> components = {};
     FloatArray result = {rule.descriptor, rule.prefix, {}};
     if (parse(*text, components)) result.values.assign(components.begin(), components.end());
@@ -56,7 +52,7 @@ DefaultRecord readComponents(const DefaultRule& rule, const std::string* text) {
 }
 
 /// A texture stands for a colour, with or without alpha, where its default reads as one.
-DefaultRecord readTexture(const DefaultRule& /*rule*/, const std::string* text) {
+DefaultRecord readTexture(const DefaultRule& /*rule*/, DefaultText text) {
     std::array<float, 4> components = {};
     if (parseAColor(*text, components)) {
         return FloatArray{
@@ -89,9 +85,9 @@ DefaultRecord listOf(const DefaultRule& rule, const std::vector<std::array<float
 }
 
 template <typename Element, bool (*parse)(std::string_view, std::vector<Element>&)>
-DefaultRecord readList(const DefaultRule& rule, const std::string* text) {
+DefaultRecord readList(const DefaultRule& rule, DefaultText text) {
     std::vector<Element> elements;
-    const bool isRead = text != nullptr && parse(*text, elements);
+    const bool isRead = text && parse(*text, elements);
     if (!isRead || (rule.fallsBackWhenEmpty && elements.empty()))
         return DescriptorOnly{rule.fallback};
     return listOf(rule, std::move(elements));
@@ -169,10 +165,10 @@ constexpr std::array<DefaultRule, 34> rules = {{
 
 }  // namespace
 
-DefaultRecord readTypedDefault(std::int32_t code, const std::string* text) {
+DefaultRecord readTypedDefault(std::int32_t code, DefaultText text) {
     const auto rule = std::ranges::find(rules, code, &DefaultRule::code);
     if (rule != rules.end()) return rule->read(*rule, text);
-    stop("unsupported type\n");
+    endRun(brokenMetadataStatus, "unsupported type\n");
 }
 
 }  // namespace metagen

@@ -2,11 +2,11 @@
 
 #include <utility>
 
+#include "model/binary_table.h"
+
 namespace metagen {
 
 namespace {
-
-constexpr std::int32_t inputFileMode = 2;
 
 void append(FileTable& table, std::string_view plugin, std::vector<std::string_view> parameters) {
     if (!parameters.empty()) table.push_back({plugin, std::move(parameters)});
@@ -24,17 +24,19 @@ void appendParameters(std::string& out, const std::vector<std::string_view>& par
 
 }  // namespace
 
-FileTables collectFileTables(const CombinedModel& model) {
+FileTables collectFileTables(const MetaModel& model) {
     FileTables tables;
-    for (const auto& [plugin, entry] : model) {
+    for (const MetaPlugin& plugin : model) {
         std::vector<std::string_view> files;
         std::vector<std::string_view> inputFiles;
-        for (const auto& [name, parameter] : entry.params) {
-            if (parameter.fileMode > 0) files.push_back(name);
-            if (parameter.fileMode == inputFileMode) inputFiles.push_back(name);
+        for (const MetaParameter& parameter : plugin.parameters) {
+            if ((parameter.flags & param_flag::fileBrowser) != 0) files.push_back(parameter.name);
+            if ((parameter.flags & param_flag::loadModeOne) != 0) {
+                inputFiles.push_back(parameter.name);
+            }
         }
-        append(tables.files, plugin, std::move(files));
-        append(tables.inputFiles, plugin, std::move(inputFiles));
+        append(tables.files, plugin.name, std::move(files));
+        append(tables.inputFiles, plugin.name, std::move(inputFiles));
     }
     return tables;
 }
@@ -57,12 +59,12 @@ void appendFileTable(std::string& out, std::string_view member, const FileTable&
     out += "\n};\n";
 }
 
-void writeFileTable(BinaryFile& file, const FileTable& table) {
-    file.writeCount(table.size());
+void appendFileRecords(std::string& records, const FileTable& table) {
+    appendCount(records, table.size());
     for (const auto& [plugin, parameters] : table) {
-        file.writeText(plugin);
-        file.writeCount(parameters.size());
-        for (const std::string_view parameter : parameters) file.writeText(parameter);
+        appendText(records, plugin);
+        appendCount(records, parameters.size());
+        for (const std::string_view parameter : parameters) appendText(records, parameter);
     }
 }
 

@@ -5,26 +5,31 @@
 #include <string_view>
 #include <vector>
 
-#include "model/combined_model.h"
-#include "model/obstream.h"
+#include "model/meta_model.h"
 
 namespace metagen {
 
-/// Parameter names by plugin name, both ascending and borrowed from the document.
-using FileTable = NamedEntries<std::vector<std::string_view>>;
+/// A plugin that has such parameters, and their names, ascending.
+struct PluginFiles {
+    std::string_view plugin;
+    std::vector<std::string_view> parameters;
+};
+
+/// In ascending order of the plugins. All names are the document's.
+using FileTable = std::vector<PluginFiles>;
 
 struct FileTables {
-    FileTable files;       ///< parameters with a file mode of 1 or 2
-    FileTable inputFiles;  ///< those with a file mode of 2
+    FileTable files;       ///< parameters with a file browser
+    FileTable inputFiles;  ///< those of them with the load mode "1"
 };
 
 /// The tables of all plugins. Plugins without such parameters do not appear.
-FileTables collectFileTables(const CombinedModel& model);
+FileTables collectFileTables(const MetaModel& model);
 
 /// Appends the assignment of a table to the member ("m.fileParams") and a line feed.
 void appendFileTable(std::string& out, std::string_view member, const FileTable& table);
 
-/// Writes the plugin count, and for each plugin its name, a count and the parameter names.
-void writeFileTable(BinaryFile& file, const FileTable& table);
+/// Appends the plugin count, and for each plugin its name, a count and the parameter names.
+void appendFileRecords(std::string& records, const FileTable& table);
 
 }  // namespace metagen

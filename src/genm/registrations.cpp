@@ -3,68 +3,58 @@
 #include <utility>
 
 #include "genm/default_record.h"
+#include "model/binary_table.h"
 #include "support/number_text.h"
 
 namespace metagen {
 
 namespace {
 
-/// Makes room for what most parameters take: texts of many megabytes that grow in steps need
-/// memory, and a copy, for each.
-void reserveFor(Registrations& out, const CombinedModel& model) {
-    constexpr std::size_t usualSource = 88;
-    constexpr std::size_t usualRecord = 64;
-    std::size_t parameters = 0;
-    for (const auto& [name, plugin] : model) parameters += plugin.params.size();
-    out.source.reserve(parameters * usualSource);
-    std::string recordRoom;
-    recordRoom.reserve(parameters * usualRecord);
-    out.records.str(std::move(recordRoom));
-}
+class RegistrationWriter {
+public:
+    RegistrationWriter(std::string& sourceText, std::string& binaryTable, ValueArrays& valueArrays)
+        : source(sourceText), table(binaryTable), groups(valueArrays) {}
 
-void addParameter(Registrations& out, ValueArrays& groups, std::string_view name,
-                  const ParamEntry& parameter) {
-    DefaultRecord defaultValue = readDefault(parameter);
-    out.records.writeText(name);
-    out.records.writeText(*parameter.typeName);
-    out.records.writeU32(parameter.flags);
-    writeDefault(out.records, defaultValue);
+    void append(const MetaPlugin& plugin) {
+        appendText(table, plugin.name);
+        // Without a category the literal of an empty text, two double quotes: deliberate, hosts
+        // tell it from an empty category.
+        appendText(table, plugin.category.value_or("\"\""));
+        appendCount(table, plugin.parameters.size());
 
-    out.source += "\n\t.add(\"";
-    out.source += name;
-    out.source += "\", \"";
-    out.source += *parameter.typeName;
-    out.source += "\", ";
-    appendInteger(out.source, parameter.flags);
-    out.source += ", ";
-    appendDefault(out.source, std::move(defaultValue), groups);
-    out.source += ')';
-}
-
-void addPlugin(Registrations& out, ValueArrays& groups, std::string_view name,
-               const PluginEntry& plugin) {
-    out.records.writeText(name);
-    // Without a category the literal of an empty text, two double quotes: deliberate, hosts tell
-    // it from an empty category.
-    out.records.writeText(plugin.category != nullptr ? std::string_view(*plugin.category) : "\"\"");
-    out.records.writeCount(plugin.params.size());
-
-    out.source += "m.add(\"";
-    out.source += name;
-    out.source += "\", \"";
-    if (plugin.category != nullptr) out.source += *plugin.category;
-    out.source += "\")";
-    for (const auto& [parameterName, parameter] : plugin.params) {
-        addParameter(out, groups, parameterName, parameter);
+        source.append("m.add(\"").append(plugin.name);
+        source.append("\", \"").append(plugin.category.value_or("")).append("\")");
+        for (const MetaParameter& parameter : plugin.parameters) append(parameter);
+        source += ";\n\n";
     }
-    out.source += ";\n\n";
-}
+
+private:
+    void append(const MetaParameter& parameter) {
+        DefaultRecord defaultValue = readDefault(parameter);
+        appendText(table, parameter.name);
+        appendText(table, parameter.typeName);
+        appendU32(table, parameter.flags);
+        appendDefaultRecord(table, defaultValue);
+
+        source.append("\n\t.add(\"").append(parameter.name);
+        source.append("\", \"").append(parameter.typeName).append("\", ");
+        appendInteger(source, parameter.flags);
+        source += ", ";
+        appendDefault(source, std::move(defaultValue), groups);
+        source += ')';
+    }
+
+    std::string& source;
+    std::string& table;
+    ValueArrays& groups;
+};
 
 }  // namespace
 
-void fillRegistrations(Registrations& out, ValueArrays& groups, const CombinedModel& model) {
-    reserveFor(out, model);
-    for (const auto& [name, plugin] : model) addPlugin(out, groups, name, plugin);
+void appendRegistrations(std::string& source, std::string& table, ValueArrays& groups,
+                         const MetaModel& model) {
+    RegistrationWriter writer(source, table, groups);
+    for (const MetaPlugin& plugin : model) writer.append(plugin);
 }
 
 }  // namespace metagen

@@ -4,20 +4,15 @@
 #include <string>
 
 #include "genm/value_arrays.h"
-#include "model/combined_model.h"
-#include "model/obstream.h"
+#include "model/meta_model.h"
 
 namespace metagen {
 
-/// The registrations as the two tables have them.
-struct Registrations {
-    std::string source;    ///< a statement and an empty line for each plugin
-    BinaryBuffer records;  ///< a record for each plugin
-};
-
-/// Fills both, empty so far, in one pass, which reads every default once; the arrays of default
-/// values go to the groups. A default that can't be expressed ends the process or throws
-/// (see readTypedDefault).
-void fillRegistrations(Registrations& out, ValueArrays& groups, const CombinedModel& model);
+/// Appends the registrations to both tables in one pass, which reads every default once: to the
+/// source text a statement and an empty line for each plugin, to the binary table a record for
+/// each. The arrays of default values go to the groups. A default that can't be expressed ends the
+/// process or throws (see readTypedDefault).
+void appendRegistrations(std::string& source, std::string& table, ValueArrays& groups,
+                         const MetaModel& model);
 
 }  // namespace metagen

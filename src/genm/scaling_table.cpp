@@ -1,110 +1,153 @@
 #include "genm/scaling_table.h"
 
-#include "genm/scaling_condition.h"
-#include "genm/stop.h"
+#include "genm/descriptor.h"
+#include "model/binary_table.h"
+#include "sdk/parameter_type.h"
+#include "support/end_run.h"
 #include "support/number_text.h"
+#include "support/numeric.h"
 
 namespace metagen {
 
 namespace {
 
-constexpr std::int32_t noUnit = 0;
 constexpr std::int32_t sceneUnit = 1;
 constexpr std::int32_t defaultPower = 1;
+constexpr std::int32_t equalsOperation = 1;
 
-/// The flag stands before conditions even when it is false.
-bool hasInverseFlag(const ParamEntry& parameter) {
-    return parameter.scaleInverse || !parameter.conditions.empty();
+/// Where a condition stands.
+struct Owner {
+    const MetaModel& model;
+    std::string_view plugin;
+};
+
+[[noreturn]] void stop(std::string_view message) { endRun(brokenMetadataStatus, message); }
+
+/// The descriptor of the condition's value, checked whether or not the document gives one.
+std::uint32_t valueDescriptor(const ScaleCondition& condition, const Owner& owner) {
+    const MetaParameter& parameter = at(at(owner.model, owner.plugin).parameters, condition.ref);
+    if (isListCode(parameter.code)) stop("Error: Scalling conditions do not support list types\n");
+    if (parameter.code == type_code::floatNumber) return singleFloatDescriptor;
+    if (parameter.code == type_code::integer || parameter.code == type_code::boolean) {
+        return singleIntegerDescriptor;
+    }
+    stop("Error: Scalling conditions unsuported value type\n");
 }
 
-bool hasPower(const ParamEntry& parameter) {
-    return hasInverseFlag(parameter) || parameter.scalePower != defaultPower;
+// A value that is no number leaves its place empty, in both tables: deliberate, although a reader
+// of the binary one can't tell.
+
+void appendConditionRecord(std::string& records, const ScaleCondition& condition,
+                           const Owner& owner) {
+    const std::uint32_t descriptor = valueDescriptor(condition, owner);
+    appendText(records, condition.ref);
+    appendI32(records, condition.op);
+    appendU32(records, descriptor);
+    if (!condition.value) return;
+    if (descriptor == singleFloatDescriptor) {
+        appendF32(records, toFloat(*condition.value));
+    } else {
+        appendI32(records, toInt32(*condition.value));
+    }
+}
+
+void appendCondition(std::string& out, const ScaleCondition& condition, const Owner& owner) {
+    if (condition.op != equalsOperation) {
+        stop("Error: Unsupported scalling condiiton operation type\n");
+    }
+    const std::uint32_t descriptor = valueDescriptor(condition, owner);
+    out.append("{ \"").append(condition.ref).append("\", Scaling::Operation::Equals, ");
+    if (condition.value && descriptor == singleFloatDescriptor) {
+        appendFloatLiteral(out, toFloat(*condition.value));
+    } else if (condition.value) {
+        appendIntegerLiteral(out, toInt32(*condition.value));
+    }
+    out += " }";
+}
+
+/// The flag stands before conditions even when it is false.
+bool hasInverseFlag(const Scaling& scaling) {
+    return scaling.inverse || !scaling.conditions.empty();
+}
+
+bool hasPower(const Scaling& scaling) {
+    return hasInverseFlag(scaling) || scaling.power != defaultPower;
 }
 
 /// Appends what differs from the defaults: unit, power and flag.
-void appendUnit(std::string& out, const ParamEntry& parameter) {
-    if (parameter.scaleUnit != sceneUnit) stop("Error: Unsupported scaling condition unit type\n");
+void appendUnit(std::string& out, const Scaling& scaling) {
+    if (scaling.unit != sceneUnit) stop("Error: Unsupported scaling condition unit type\n");
     out += ", { Scaling::UnitType::Scene";
-    if (hasPower(parameter)) {
+    if (hasPower(scaling)) {
         out += ", ";
-        appendInteger(out, parameter.scalePower);
+        appendInteger(out, scaling.power);
     }
-    if (hasInverseFlag(parameter)) out += parameter.scaleInverse ? ", true" : ", false";
+    if (hasInverseFlag(scaling)) out += scaling.inverse ? ", true" : ", false";
 }
 
-void appendConditions(std::string& out, const ParamEntry& parameter, const CombinedModel& model,
-                      std::string_view plugin) {
+void appendConditions(std::string& out, const Scaling& scaling, const Owner& owner) {
     const char* separator = "\n\t\t\t";
-    for (const ScaleCondition& condition : parameter.conditions) {
+    for (const ScaleCondition& condition : scaling.conditions) {
         out += separator;
-        appendCondition(out, condition, model, plugin);
+        appendCondition(out, condition, owner);
         separator = ",\n\t\t\t";
     }
     // The blank after "}" stands only without conditions: deliberate.
-    out += parameter.conditions.empty() ? "} " : "\n\t\t}";
+    out += scaling.conditions.empty() ? "} " : "\n\t\t}";
 }
 
-void appendParameter(std::string& out, std::string_view name, const ParamEntry& parameter,
-                     const CombinedModel& model, std::string_view plugin) {
-    const bool hasUnit = parameter.scaleUnit != sceneUnit || hasPower(parameter);
-    out += "\n\t\t{ \"";
-    out += name;
-    out += '"';
-    if (hasUnit) appendUnit(out, parameter);
+void appendParameter(std::string& out, std::string_view name, const Scaling& scaling,
+                     const Owner& owner) {
+    const bool hasUnit = scaling.unit != sceneUnit || hasPower(scaling);
+    out.append("\n\t\t{ \"").append(name).append("\"");
+    if (hasUnit) appendUnit(out, scaling);
     out += ", {";
-    appendConditions(out, parameter, model, plugin);
+    appendConditions(out, scaling, owner);
     out += hasUnit ? "}}" : "}";
-}
-
-void writeParameter(BinaryFile& file, const ParamEntry& parameter, const CombinedModel& model,
-                    std::string_view plugin) {
-    file.writeI32(parameter.scaleUnit);
-    file.writeI32(parameter.scalePower);
-    file.writeByte(parameter.scaleInverse ? 1 : 0);
-    file.writeCount(parameter.conditions.size());
-    for (const ScaleCondition& condition : parameter.conditions) {
-        writeCondition(file, condition, model, plugin);
-    }
 }
 
 }  // namespace
 
-ScalingTable collectScalingTable(const CombinedModel& model) {
+ScalingTable collectScalingTable(const MetaModel& model) {
     ScalingTable table;
-    for (const auto& [plugin, entry] : model) {
-        for (const auto& [name, parameter] : entry.params) {
-            if (parameter.scaleUnit == noUnit) continue;
-            table[plugin.substr(0, plugin.find('\0'))].emplace(name, &parameter);
+    for (const MetaPlugin& plugin : model) {
+        for (const MetaParameter& parameter : plugin.parameters) {
+            if (parameter.scaling == nullptr) continue;
+            const std::string_view name = plugin.name.substr(0, plugin.name.find('\0'));
+            table[name].emplace(parameter.name, parameter.scaling.get());
         }
     }
     return table;
 }
 
-void writeScalingTable(BinaryFile& file, const ScalingTable& table, const CombinedModel& model) {
-    file.writeCount(table.size());
+void appendScalingRecords(std::string& records, const ScalingTable& table, const MetaModel& model) {
+    appendCount(records, table.size());
     for (const auto& [plugin, parameters] : table) {
-        file.writeText(plugin);
-        file.writeCount(parameters.size());
-        for (const auto& [name, parameter] : parameters) {
-            file.writeText(name);
-            writeParameter(file, *parameter, model, plugin);
+        appendText(records, plugin);
+        appendCount(records, parameters.size());
+        for (const auto& [name, scaling] : parameters) {
+            appendText(records, name);
+            appendI32(records, scaling->unit);
+            appendI32(records, scaling->power);
+            records += scaling->inverse ? '\1' : '\0';
+            appendCount(records, scaling->conditions.size());
+            for (const ScaleCondition& condition : scaling->conditions) {
+                appendConditionRecord(records, condition, {model, plugin});
+            }
         }
     }
 }
 
-void appendScalingTable(std::string& out, const ScalingTable& table, const CombinedModel& model) {
+void appendScalingTable(std::string& out, const ScalingTable& table, const MetaModel& model) {
     if (table.empty()) return;
     out += "m.scalingParams = ";
     const char* pluginSeparator = "{";
     for (const auto& [plugin, parameters] : table) {
-        out += pluginSeparator;
-        out += "\n\t{ \"";
-        out += plugin;
-        out += "\", ";
+        out.append(pluginSeparator).append("\n\t{ \"").append(plugin).append("\", ");
         const char* separator = "{";
-        for (const auto& [name, parameter] : parameters) {
+        for (const auto& [name, scaling] : parameters) {
             out += separator;
-            appendParameter(out, name, *parameter, model, plugin);
+            appendParameter(out, name, *scaling, {model, plugin});
             separator = ",";
         }
         out += "\n\t}}";

@@ -65,19 +65,25 @@ std::size_t ValueArrayGroup::intern(std::vector<float> values) {
 }
 
 void ValueArrayGroup::appendDefinitions(std::string& out) const {
-    std::vector<std::pair<std::string, std::size_t>> namedNumbers(arrays.size());
-    for (std::size_t number = 0; number < arrays.size(); ++number) {
-        namedNumbers[number] = {std::to_string(number), number};
+    appendDefinition(out, 0);
+    for (std::size_t digit = 1; digit < 10; ++digit) appendDefinitionsFrom(out, digit);
+}
+
+void ValueArrayGroup::appendDefinitionsFrom(std::string& out, std::size_t number) const {
+    if (number >= arrays.size()) return;
+    appendDefinition(out, number);
+    for (std::size_t digit = 0; digit < 10; ++digit) {
+        appendDefinitionsFrom(out, 10 * number + digit);
     }
-    std::ranges::sort(namedNumbers);
+}
+
+void ValueArrayGroup::appendDefinition(std::string& out, std::size_t number) const {
     const bool isInteger = prefix == array_prefix::integers;
-    for (const auto& [digits, number] : namedNumbers) {
-        out += isInteger ? "static constexpr int " : "static constexpr float ";
-        out += prefix;
-        out += digits;
-        out += "[] =";
-        appendValues(out, prefix, arrays[number]);
-    }
+    out += isInteger ? "static constexpr int " : "static constexpr float ";
+    out += prefix;
+    appendInteger(out, static_cast<std::int64_t>(number));
+    out += "[] =";
+    appendValues(out, prefix, arrays[number]);
 }
 
 void internValueArray(std::string& out, std::vector<float> values, ValueArrays& groups,

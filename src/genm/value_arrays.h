@@ -33,10 +33,15 @@ public:
     /// compared as floats: 0 equals -0, and an array with a NaN equals none.
     std::size_t intern(std::vector<float> values);
 
-    /// Appends a line for each array, in ascending order of the names: "vec10" before "vec2".
+    /// Appends a line for each array, of which there is one at least, in ascending order of the
+    /// names: "vec10" before "vec2".
     void appendDefinitions(std::string& out) const;
 
 private:
+    /// Appends the array of that number and all whose numbers begin with its digits.
+    void appendDefinitionsFrom(std::string& out, std::size_t number) const;
+    void appendDefinition(std::string& out, std::size_t number) const;
+
     std::string_view prefix;
     std::vector<std::vector<float>> arrays;  ///< by number, which is the order of first use
     /// The numbers of the arrays by a hash of their values, but for those with a NaN.

@@ -7,13 +7,19 @@
 #include <vector>
 
 #include "json/input.h"
-#include "support/process_end.h"
+#include "support/end_run.h"
 
 namespace metagen::json {
 
 namespace {
 
 bool sameKey(const Member& left, const Member& right) { return left.key == right.key; }
+
+/// Equal keys in the order of the document.
+bool comesBefore(const Member& left, const Member& right) {
+    const int order = left.key.compare(right.key);
+    return order < 0 || (order == 0 && left.value.offset() < right.value.offset());
+}
 
 bool keyNotLess(const Member& left, const Member& right) { return left.key >= right.key; }
 
@@ -104,9 +110,7 @@ private:
     /// where the members that are left do. Most documents have them in order.
     MemberIterator sorted(MemberIterator first) {
         if (std::adjacent_find(first, members.end(), keyNotLess) == members.end()) return first;
-        std::stable_sort(first, members.end(), [](const Member& left, const Member& right) {
-            return left.key < right.key;
-        });
+        std::sort(first, members.end(), comesBefore);
         const auto firstBackwards = std::make_reverse_iterator(first);
         return std::unique(members.rbegin(), firstBackwards, sameKey).base();
     }
@@ -147,9 +151,10 @@ std::uint32_t Document::offsetOf(std::string_view key) const {
     return offset;
 }
 
-Object objectOrExit(const Value& value, const char* message) {
-    requireOrExit(value.isObject(), "%s", message);
-    return *value.object();
+Object objectOrExit(const Value& value, std::string_view message) {
+    const std::optional<Object> members = value.object();
+    requireOrExit(members.has_value(), message);
+    return *members;
 }
 
 Place PlaceFinder::placeAt(std::size_t offset) {

@@ -48,7 +48,7 @@ private:
 
 /// The document's value as an object. When it is none, the message on standard error ends the
 /// process with status 1.
-Object objectOrExit(const Value& value, const char* message);
+Object objectOrExit(const Value& value, std::string_view message);
 
 /// A place as editors count it: from 1, the column in characters.
 struct Place {

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
+#include <stdexcept>
 
 #include <picojson.h>
 
 #include "support/special_bytes.h"
-#include "support/standard_errors.h"
 
 namespace metagen::json {
 
@@ -63,49 +63,6 @@ bool equalMembers(const Member& left, const Member& right) {
 
 }  // namespace
 
-Value::Value(std::string_view text) noexcept : Value(Kind::text, text.size()) {
-    content.text = text.data();
-}
-
-Value::Value(Array elements) noexcept : Value(Kind::array, elements.size()) {
-    content.elements = elements.data();
-}
-
-Value::Value(Object members) noexcept : Value(Kind::object, members.size()) {
-    content.members = members.data();
-}
-
-std::optional<bool> Value::boolean() const {
-    if (kind() != Kind::boolean) return std::nullopt;
-    return content.boolean;
-}
-
-std::optional<double> Value::number() const {
-    if (kind() != Kind::number) return std::nullopt;
-    return content.number;
-}
-
-std::optional<std::string_view> Value::text() const {
-    if (kind() != Kind::text) return std::nullopt;
-    return std::string_view(content.text, size);
-}
-
-std::optional<Array> Value::array() const {
-    if (kind() != Kind::array) return std::nullopt;
-    return Array(content.elements, size);
-}
-
-std::optional<Object> Value::object() const {
-    if (kind() != Kind::object) return std::nullopt;
-    return Object(content.members, size);
-}
-
-Value Value::withOffset(std::uint32_t offset) const {
-    Value value = *this;
-    value.begin = offset;
-    return value;
-}
-
 bool operator==(const Value& left, const Value& right) {
     if (left.kind() != right.kind()) return false;
     switch (left.kind()) {
@@ -120,7 +77,11 @@ bool operator==(const Value& left, const Value& right) {
 }
 
 const Value* find(Object object, std::string_view key) {
-    const auto member = std::ranges::lower_bound(object, key, {}, &Member::key);
+    // Most objects have few members, which are told apart by the length of their keys.
+    constexpr std::size_t fewMembers = 8;
+    const auto member = object.size() <= fewMembers
+                            ? std::ranges::find(object, key, &Member::key)
+                            : std::ranges::lower_bound(object, key, {}, &Member::key);
     return member == object.end() || member->key != key ? nullptr : &member->value;
 }
 
@@ -129,6 +90,8 @@ const Value& at(Object object, std::string_view key) {
     if (value == nullptr) throwInvalidMapKey();
     return *value;
 }
+
+void throwInvalidMapKey() { throw std::out_of_range("invalid map<K, T> key"); }
 
 Object asObject(const Value& value) {
     const std::optional<Object> members = value.object();

@@ -40,8 +40,12 @@ public:
     }
     explicit Value(double number) noexcept : Value(Kind::number, 0) { content.number = number; }
     /// Of at most `maximumSize` bytes, elements or members.
-    explicit Value(std::string_view text) noexcept;
-    explicit Value(Array elements) noexcept;
+    explicit Value(std::string_view text) noexcept : Value(Kind::text, text.size()) {
+        content.text = text.data();
+    }
+    explicit Value(Array elements) noexcept : Value(Kind::array, elements.size()) {
+        content.elements = elements.data();
+    }
     explicit Value(Object members) noexcept;
 
     [[nodiscard]] Kind kind() const { return static_cast<Kind>(kindNumber); }
@@ -49,15 +53,29 @@ public:
     [[nodiscard]] bool isObject() const { return kind() == Kind::object; }
 
     // What the value holds; nothing when it is of another kind.
-    [[nodiscard]] std::optional<bool> boolean() const;
-    [[nodiscard]] std::optional<double> number() const;
-    [[nodiscard]] std::optional<std::string_view> text() const;
-    [[nodiscard]] std::optional<Array> array() const;
+    [[nodiscard]] std::optional<bool> boolean() const {
+        return kind() == Kind::boolean ? std::optional(content.boolean) : std::nullopt;
+    }
+    [[nodiscard]] std::optional<double> number() const {
+        return kind() == Kind::number ? std::optional(content.number) : std::nullopt;
+    }
+    [[nodiscard]] std::optional<std::string_view> text() const {
+        if (kind() != Kind::text) return std::nullopt;
+        return std::string_view(content.text, size);
+    }
+    [[nodiscard]] std::optional<Array> array() const {
+        if (kind() != Kind::array) return std::nullopt;
+        return Array(content.elements, size);
+    }
     [[nodiscard]] std::optional<Object> object() const;
 
     /// Where the value begins in its document, in bytes; 0 for a value that was not parsed.
     [[nodiscard]] std::uint32_t offset() const { return begin; }
-    [[nodiscard]] Value withOffset(std::uint32_t offset) const;
+    [[nodiscard]] Value withOffset(std::uint32_t offset) const {
+        Value value = *this;
+        value.begin = offset;
+        return value;
+    }
 
 private:
     Value(Kind kind, std::size_t count) noexcept
@@ -81,14 +99,27 @@ struct Member {
     Value value;
 };
 
+inline Value::Value(Object members) noexcept : Value(Kind::object, members.size()) {
+    content.members = members.data();
+}
+
+inline std::optional<Object> Value::object() const {
+    if (kind() != Kind::object) return std::nullopt;
+    return Object(content.members, size);
+}
+
 /// Deep equality: numbers compare as doubles, elements in order, members by key.
 bool operator==(const Value& left, const Value& right);
 
 /// The member's value, or null when the object lacks it.
 const Value* find(Object object, std::string_view key);
 
-/// The member's value. Throws std::out_of_range "invalid map<K, T> key" when the object lacks it.
+/// The member's value. Throws `throwInvalidMapKey` when the object lacks it.
 const Value& at(Object object, std::string_view key);
+
+/// Throws std::out_of_range "invalid map<K, T> key": something is missing that must be there. The
+/// text is the tool's own, since C++ libraries word it differently.
+[[noreturn]] void throwInvalidMapKey();
 
 /// The value as an object or a text. Any other kind throws std::runtime_error with the library's
 /// text: "type mismatch! call is<type>() before get<type>()" && is<object>() (or

@@ -1,5 +1,5 @@
-// The writer of the base document. Its layout is an interface: no white space, no line break, the
-// members in the combined key order.
+// The base document: everything that a renderer knows of its plugin classes. Its layout is an
+// interface: no white space, no line break, classes and parameters in the combined key order.
 #pragma once
 
 #include <cstdint>
@@ -9,23 +9,21 @@
 #include <string>
 
 #include "metadata/key_order.h"
-#include "metadata/live_metadata.h"
-#include "metadata/parameter_description.h"
+#include "sdk/renderer.h"
 
 namespace metagen {
 
-/// The base document while the SDK is asked. A class is turned into text as soon as it is known,
-/// so that the document is all that is held in memory.
 class BaseDocument {
 public:
-    /// Adds a class, unless there is one with an equal name in the combined order.
-    void add(std::string className, const PluginRecord& plugin);
+    /// Asks about every class, in the SDK's order; of classes with equal names in the combined
+    /// order the first is kept. Ends and throws like `readPluginObject`.
+    explicit BaseDocument(const Renderer& renderer);
 
-    /// Writes the whole document. Ends the process on a type code without a name (see `typeName`)
-    /// in any class that was added: only now, so that what is wrong with a later class comes first.
+    /// Writes the document. Ends the process on a type code without a name (see `typeName`): only
+    /// now, so that what is wrong with a later class comes first.
     void write(std::FILE* file) const;
 
-    /// The whole document as one text; ends the process like `write`.
+    /// The document as one text; ends the process like `write`.
     [[nodiscard]] std::string text() const;
 
 private:
@@ -34,23 +32,7 @@ private:
     void forEachPiece(const Append& append) const;
 
     std::map<std::string, std::string, CombinedKeyLess> plugins;  ///< the object of each class
-    std::string objectBuffer;
-    std::string defaultTextBuffer;
     std::optional<std::int32_t> namelessCode;
 };
-
-/// Asks the renderer about everything. Ends and throws like `visitPlugins`.
-BaseDocument readBaseDocument(const Renderer& renderer);
-
-/// Appends the object of a parameter.
-using ParameterWriter = void (*)(std::string& out, const ParameterDescription& parameter);
-
-/// Appends the object of a plugin: its category and its parameters, each by the writer, which is
-/// where the base and the combined document differ. The buffer can serve for many plugins.
-void appendPlugin(std::string& out, const PluginRecord& plugin, ParameterWriter appendOne,
-                  std::string& defaultTextBuffer);
-
-/// The writer of the base document.
-void appendParameter(std::string& out, const ParameterDescription& parameter);
 
 }  // namespace metagen

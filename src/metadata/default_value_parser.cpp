@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "metadata/list_tokenizer.h"
-#include "metadata/parameter_type.h"
-#include "support/number_prefix.h"
+#include "sdk/parameter_type.h"
+#include "support/number_reader.h"
 #include "support/numeric.h"
 
 namespace metagen {

@@ -1,10 +1,12 @@
 #include "metadata/default_value_text.h"
 
+#include <array>
 #include <span>
+#include <string_view>
 
-#include "metadata/parameter_type.h"
-#include "sdk/entry_point_table.h"
+#include "sdk/parameter_type.h"
 #include "sdk/renderer.h"
+#include "sdk/sdk_memory.h"
 #include "support/number_text.h"
 
 namespace metagen {
@@ -13,11 +15,11 @@ namespace {
 
 /// Appends "word(", what appendElement appends for each element, separated, and ")".
 template <typename Elements, typename AppendElement>
-void appendElements(std::string& out, const char* word, const Elements& elements,
+void appendElements(std::string& out, std::string_view word, const Elements& elements,
                     const AppendElement& appendElement) {
     out += word;
     out += '(';
-    const char* separator = "";
+    std::string_view separator;
     for (const auto& element : elements) {
         out += separator;
         appendElement(out, element);
@@ -30,141 +32,106 @@ void appendFloat(std::string& out, float number) {
     appendGeneral(out, static_cast<double>(number));
 }
 
-void appendFloats(std::string& out, const char* word, std::span<const float> numbers) {
+void appendFloats(std::string& out, std::string_view word, std::span<const float> numbers) {
     appendElements(out, word, numbers, appendFloat);
 }
 
-void appendVector(std::string& out, std::span<const float, 3> vector) {
-    appendFloats(out, "Vector", vector);
+using Floats3 = std::span<const float, 3>;
+using Floats9 = std::span<const float, 9>;
+using Floats12 = std::span<const float, 12>;
+
+void appendVector(std::string& out, Floats3 vector) { appendFloats(out, "Vector", vector); }
+
+void appendColor(std::string& out, Floats3 color) { appendFloats(out, "Color", color); }
+
+void appendMatrix(std::string& out, Floats9 matrix) {
+    const Floats3 rows[] = {matrix.subspan<0, 3>(), matrix.subspan<3, 3>(), matrix.subspan<6, 3>()};
+    appendElements(out, "Matrix", rows, appendVector);
 }
 
-void appendColor(std::string& out, const Components& color) {
-    appendFloats(out, "Color", std::span(color).first<3>());
-}
-
-void appendMatrix(std::string& out, std::span<const float> matrix) {
-    out += "Matrix(";
-    appendVector(out, matrix.subspan<0, 3>());
-    out += ", ";
-    appendVector(out, matrix.subspan<3, 3>());
-    out += ", ";
-    appendVector(out, matrix.subspan<6, 3>());
-    out += ')';
-}
-
-void appendTransform(std::string& out, const Components& transform) {
+void appendTransform(std::string& out, Floats12 transform) {
     out += "Transform(";
-    appendMatrix(out, transform);
+    appendMatrix(out, transform.first<9>());
     out += ", ";
-    appendVector(out, std::span(transform).last<3>());
+    appendVector(out, transform.last<3>());
     out += ')';
 }
 
-void appendComponents(std::string& out, std::int32_t tag, const Components& components) {
-    switch (tag) {
-        case type_code::vector: return appendVector(out, std::span(components).first<3>());
-        case type_code::color: return appendColor(out, components);
-        case type_code::acolor:
-            return appendFloats(out, "AColor", std::span(components).first<4>());
-        case type_code::matrix: return appendMatrix(out, components);
-        default: return appendTransform(out, components);
-    }
+/// A list whose elements lie in one array of floats.
+template <std::size_t count>
+void appendCompounds(std::string& out, std::string_view word, const QyraValue& list,
+                     void (*appendOne)(std::string& out, std::span<const float, count> floats)) {
+    using Floats = std::array<float, count>;
+    appendElements(out, word, elementsOf<const Floats>(list),
+                   [appendOne](std::string& text, const Floats& floats) {
+                       appendOne(text, std::span<const float, count>(floats));
+                   });
 }
 
-/// A plugin without a name has an empty one.
-void appendPluginName(std::string& out, const PluginReference& reference) {
-    if (reference.renderer == nullptr) return;
-    const char* name = entryPoints().Qyra_QyraRenderer_getPluginName(
-        reference.renderer, pluginIdOf(reference.pluginId));
-    if (name != nullptr) out += name;
+void appendText(std::string& out, const char* text) {
+    if (text != nullptr) out += text;
 }
 
-bool pluginExists(const PluginReference& reference) {
-    const std::int64_t id = pluginIdOf(reference.pluginId);
-    if (reference.renderer == nullptr || id == 0 || id == -1) return false;
-    return entryPoints().Qyra_QyraRenderer_pluginExistsByID(reference.renderer, id) != 0;
+void appendPluginName(std::string& out, const QyraPluginReference& reference) {
+    appendText(out, pluginName(reference));  // a plugin without a name has an empty one
 }
 
-void appendPluginReference(std::string& out, const PluginReference& reference) {
+void appendPluginReference(std::string& out, const QyraPluginReference& reference) {
     if (!pluginExists(reference)) {
         out += "#InvalidPlugin";
         return;
     }
     appendPluginName(out, reference);
     if (reference.propertyIndex < 1) return;
-    const char* property = entryPoints().Qyra_QyraRenderer_getPropertyNameFromIndexByID(
-        reference.renderer, pluginIdOf(reference.pluginId), reference.propertyIndex);
-    if (property == nullptr) return;
-    out += "::";
-    out += property;
+    const char* property = propertyName(reference);
+    if (property != nullptr) out.append("::").append(property);
 }
 
-void appendText(std::string& out, const std::string& text) { out += text; }
-
-const char* componentsListWord(std::int32_t tag) {
-    switch (tag) {
-        case qyra_kind::vectorList: return "VectorList";
-        case qyra_kind::colorList: return "ColorList";
-        default: return "TransformList";
+void appendListText(std::string& out, const QyraValue& value) {
+    switch (value.kind) {
+        case qyra_kind::genericList:
+            return appendElements(out, "List", elementsOf<const QyraValue>(value),
+                                  appendDefaultValueText);
+        case qyra_kind::integerList:
+            return appendElements(out, "IntList", elementsOf<const std::int32_t>(value),
+                                  appendInteger);
+        case qyra_kind::floatList:
+            return appendFloats(out, "FloatList", elementsOf<const float>(value));
+        case qyra_kind::vectorList: return appendCompounds(out, "VectorList", value, appendVector);
+        case qyra_kind::colorList: return appendCompounds(out, "ColorList", value, appendColor);
+        case qyra_kind::transformList:
+            return appendCompounds(out, "TransformList", value, appendTransform);
+        case qyra_kind::textList:
+            return appendElements(out, "StringList", elementsOf<const char* const>(value),
+                                  appendText);
+        case qyra_kind::pluginList:
+            // The elements are not asked whether they exist, unlike a single reference.
+            return appendElements(out, "PluginList", elementsOf<const QyraPluginReference>(value),
+                                  appendPluginName);
+        default: out += "<?>"; return;
     }
 }
-
-/// Appends the text of each kind of payload; the tag tells apart the kinds that share one.
-struct PayloadWriter {
-    std::string& out;
-    std::int32_t tag;
-
-    void operator()(std::monostate) const {
-        switch (tag) {
-            case qyra_kind::bad: out += "#BadValue"; return;
-            case qyra_kind::unspecified: out += "#Unspecified"; return;
-            default: out += "<?>"; return;
-        }
-    }
-    void operator()(std::int32_t number) const { appendInteger(out, number); }
-    void operator()(float number) const { appendFloat(out, number); }
-    void operator()(double number) const { appendGeneral(out, number); }
-    void operator()(bool truth) const { out += truth ? '1' : '0'; }
-    void operator()(const Components& components) const { appendComponents(out, tag, components); }
-    void operator()(const std::string& text) const { out += text; }
-    void operator()(const PluginReference& reference) const {
-        appendPluginReference(out, reference);
-    }
-    void operator()(const std::vector<TaggedValue>& values) const {
-        appendElements(out, "List", values, appendDefaultValueText);
-    }
-    void operator()(const std::vector<std::int32_t>& numbers) const {
-        appendElements(out, "IntList", numbers, appendInteger);
-    }
-    void operator()(const std::vector<float>& numbers) const {
-        appendFloats(out, "FloatList", numbers);
-    }
-    void operator()(const std::vector<Components>& list) const {
-        const auto appendElement = [elementTag = tag - type_code::listOffset](
-                                       std::string& text, const Components& components) {
-            appendComponents(text, elementTag, components);
-        };
-        appendElements(out, componentsListWord(tag), list, appendElement);
-    }
-    void operator()(const std::vector<std::string>& texts) const {
-        appendElements(out, "StringList", texts, appendText);
-    }
-    void operator()(const std::vector<PluginReference>& references) const {
-        // The elements are not asked whether they exist, unlike a single reference.
-        appendElements(out, "PluginList", references, appendPluginName);
-    }
-};
 
 }  // namespace
 
-void appendDefaultValueText(std::string& out, const TaggedValue& value) {
-    std::visit(PayloadWriter{out, value.tag}, value.payload);
-}
-
-std::string defaultValueText(const TaggedValue& value) {
-    std::string text;
-    appendDefaultValueText(text, value);
-    return text;
+void appendDefaultValueText(std::string& out, const QyraValue& value) {
+    const std::span<const float, 12> components(value.components);
+    switch (value.kind) {
+        case qyra_kind::bad: out += "#BadValue"; return;
+        case qyra_kind::unspecified: out += "#Unspecified"; return;
+        case type_code::integer: return appendInteger(out, value.integer);
+        case type_code::floatNumber: return appendFloat(out, value.single);
+        case type_code::doubleNumber: return appendGeneral(out, value.real);
+        case type_code::boolean: out += value.boolean != 0 ? '1' : '0'; return;
+        case type_code::vector: return appendVector(out, components.first<3>());
+        case type_code::color: return appendColor(out, components.first<3>());
+        case type_code::acolor: return appendFloats(out, "AColor", components.first<4>());
+        case type_code::matrix: return appendMatrix(out, components.first<9>());
+        case type_code::transform: return appendTransform(out, components);
+        case type_code::string: return appendText(out, value.text);
+        case type_code::plugin: return appendPluginReference(out, value.reference);
+        default: return appendListText(out, value);
+    }
 }
 
 }  // namespace metagen

@@ -33,16 +33,4 @@ bool CombinedKeyLess::operator()(std::string_view left, std::string_view right) 
     return std::ranges::lexicographical_compare(left, right, foldedLess);
 }
 
-// The first bytes, from the highest of the number down, so shifted that they are in order as
-// unsigned numbers. What a short key lacks is 0, which no byte is below.
-std::uint64_t combinedKeyPrefix(std::string_view key) {
-    if (key == first) return 0;
-    std::uint64_t prefix = 0;
-    for (std::size_t i = 0; i < sizeof prefix; ++i) {
-        const int shifted = i < key.size() ? folded(key[i]) + 128 : 0;
-        prefix = prefix << 8U | static_cast<std::uint64_t>(shifted);
-    }
-    return prefix;
-}
-
 }  // namespace metagen

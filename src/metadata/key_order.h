@@ -1,7 +1,6 @@
 // The order in which the base and the combined document list plugins, parameters and keys.
 #pragma once
 
-#include <cstdint>
 #include <string_view>
 
 namespace metagen {
@@ -15,9 +14,5 @@ struct CombinedKeyLess {
 
     bool operator()(std::string_view left, std::string_view right) const;
 };
-
-/// A number that makes most comparisons of many keys short: where those of two keys differ, the
-/// keys are in the order of the numbers. Where they are equal, `CombinedKeyLess` has to tell.
-std::uint64_t combinedKeyPrefix(std::string_view key);
 
 }  // namespace metagen

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/number_prefix.h"
+#include "support/number_reader.h"
 
 namespace metagen {
 

@@ -1,5 +1,8 @@
 #include "sdk/sdk_memory.h"
 
+#include <algorithm>
+#include <array>
+
 #include "sdk/entry_point_table.h"
 
 namespace metagen {
@@ -8,22 +11,22 @@ namespace {
 
 void freeBlock(void* memory) noexcept { entryPoints().C_memory_free(memory); }
 
+bool isList(const QyraValue& value) {
+    constexpr std::array kinds = {qyra_kind::genericList, qyra_kind::integerList,
+                                  qyra_kind::floatList,   qyra_kind::vectorList,
+                                  qyra_kind::colorList,   qyra_kind::transformList,
+                                  qyra_kind::textList,    qyra_kind::pluginList};
+    return std::ranges::find(kinds, value.kind) != kinds.end();
+}
+
 void freeParts(QyraValue& value) noexcept {
-    switch (value.kind) {
-        case qyra_kind::text: freeBlock(value.text); return;
-        case qyra_kind::genericList:
-            for (QyraValue& element : elementsOf<QyraValue>(value)) freeParts(element);
-            break;
-        case qyra_kind::textList:
-            for (char* text : elementsOf<char*>(value)) freeBlock(text);
-            break;
-        case qyra_kind::integerList:
-        case qyra_kind::floatList:
-        case qyra_kind::vectorList:
-        case qyra_kind::colorList:
-        case qyra_kind::transformList:
-        case qyra_kind::pluginList: break;
-        default: return;
+    if (value.kind == qyra_kind::text) freeBlock(value.text);
+    if (!isList(value)) return;
+    if (value.kind == qyra_kind::genericList) {
+        for (QyraValue& element : elementsOf<QyraValue>(value)) freeParts(element);
+    }
+    if (value.kind == qyra_kind::textList) {
+        for (char* text : elementsOf<char*>(value)) freeBlock(text);
     }
     freeBlock(value.elements);
 }
@@ -43,6 +46,10 @@ private:
 }  // namespace
 
 void SdkMemoryRelease::operator()(void* memory) const noexcept { freeBlock(memory); }
+
+std::size_t elementCount(const QyraValue& value) {
+    return isList(value) ? elementsOf<const void*>(value).size() : 0;
+}
 
 SdkValue::~SdkValue() { freeParts(raw); }
 

@@ -27,6 +27,9 @@ std::span<Element> elementsOf(const QyraValue& value) {
     return {elements, elements == nullptr ? 0 : std::size_t{value.count}};
 }
 
+/// The number of elements when the value is a list of any kind, otherwise zero.
+std::size_t elementCount(const QyraValue& value);
+
 /// A value and everything that hangs below it.
 class SdkValue {
 public:

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string_view>
 
@@ -110,6 +111,14 @@ void appendFloatLiteral(std::string& out, float number) {
     out += plainWhole ? ".f" : "f";
 }
 
+void appendIntegerLiteral(std::string& out, std::int32_t number) {
+    if (number == std::numeric_limits<std::int32_t>::min()) {
+        out += "INT_MIN";
+    } else {
+        appendInteger(out, number);
+    }
+}
+
 void appendFloatList(std::string& out, std::span<const float> numbers) {
     const char* separator = "";
     for (const float number : numbers) {
@@ -117,18 +126,6 @@ void appendFloatList(std::string& out, std::span<const float> numbers) {
         appendFloatLiteral(out, number);
         separator = ", ";
     }
-}
-
-std::string formatFloatLiteral(float number) {
-    std::string text;
-    appendFloatLiteral(text, number);
-    return text;
-}
-
-std::string formatFloatList(std::span<const float> numbers) {
-    std::string text;
-    appendFloatList(text, numbers);
-    return text;
 }
 
 }  // namespace metagen

@@ -20,13 +20,11 @@ void appendGeneral(std::string& out, double number);
 /// exponents, where it would be ill-formed.
 void appendFloatLiteral(std::string& out, float number);
 
+/// Appends the number in decimal as a source literal; the smallest one as INT_MIN, which has no
+/// literal of its own in the host's language.
+void appendIntegerLiteral(std::string& out, std::int32_t number);
+
 /// Appends the literals of the numbers, separated by ", ".
 void appendFloatList(std::string& out, std::span<const float> numbers);
-
-/// The literal of appendFloatLiteral as a text of its own.
-std::string formatFloatLiteral(float number);
-
-/// The list of appendFloatList as a text of its own; empty for no numbers.
-std::string formatFloatList(std::span<const float> numbers);
 
 }  // namespace metagen

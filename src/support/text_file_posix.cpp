@@ -19,6 +19,4 @@ std::size_t sizeOf(std::FILE* file) {
     return known ? static_cast<std::size_t>(status.st_size) : 0;
 }
 
-File openForWriting(const char* path) { return File(std::fopen(path, "w")); }
-
 }  // namespace metagen

@@ -13,6 +13,4 @@ std::size_t sizeOf(std::FILE* file) {
     return length > 0 ? static_cast<std::size_t>(length) : 0;
 }
 
-File openForWriting(const char* path) { return File(std::fopen(path, "w")); }
-
 }  // namespace metagen

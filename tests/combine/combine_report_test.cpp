@@ -8,7 +8,7 @@ namespace {
 using Entries = std::vector<std::string>;
 
 /// A report in the middle of a merge.
-CombineReport reportAt(const std::string& plugin, const std::string& parameter) {
+CombineReport reportAt(std::string_view plugin, std::string_view parameter) {
     CombineReport report;
     report.currentPlugin = plugin;
     report.currentParameter = parameter;

@@ -3,11 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <string_view>
-#include <utility>
 #include <vector>
 
-#include "combine/test_documents.h"
+#include "json/document.h"
+#include "support/message_of.h"
 
 namespace metagen {
 namespace {
@@ -27,12 +26,14 @@ struct Outcome {
     }
 };
 
-Outcome merged(std::string_view stripped, std::string_view live) {
-    json::Object document = objectOf(live);
+Outcome merged(const std::string& stripped, const std::string& live) {
+    const json::Document strippedDocument(stripped);
+    const json::Document liveDocument(live);
+    json::Arena arena;
     CombineReport report;
-    merge(objectOf(stripped), document, report);
-    Outcome outcome;
-    outcome.document = json::compactText(json::Value(std::move(document)));
+    const json::Object document = merge(json::asObject(strippedDocument.root()),
+                                        json::asObject(liveDocument.root()), arena, report);
+    Outcome outcome = {.document = json::compactText(json::Value(document)), .entries = {}};
     const auto add = [&outcome](const char* list, const std::vector<std::string>& entries) {
         for (const std::string& entry : entries) outcome.entries.push_back(list + entry);
     };
@@ -45,7 +46,7 @@ Outcome merged(std::string_view stripped, std::string_view live) {
     return outcome;
 }
 
-std::string mergeMessage(std::string_view stripped, std::string_view live) {
+std::string mergeMessage(const std::string& stripped, const std::string& live) {
     return messageOf([&] { merged(stripped, live); });
 }
 
@@ -209,6 +210,33 @@ TEST(Merge, RefusesAnEmptyObjectOverALeaf) {
 TEST(Merge, ReplacesAnObjectByALeaf) {
     EXPECT_EQ(merged(R"({"plugins":{"P":7}})", plugin(R"("type":"light")")),
               (Outcome{R"({"plugins":{"P":7}})", {}}));
+}
+
+/// The object that is the value of a member.
+json::Object objectAt(json::Object object, const char* key) {
+    return json::asObject(json::at(object, key));
+}
+
+TEST(Merge, SharesWhatOnlyOneDocumentSaysAndChangesNeither) {
+    const json::Document stripped(
+        R"({"plugins":{"New":{"a":[1]},"P":{"type":"color"},"Out":null}})");
+    const json::Document live(
+        R"({"plugins":{"Kept":{"b":{}},"Out":{},"P":{"q":{},"type":"float"}}})");
+    const std::string strippedText = json::compactText(stripped.root());
+    const std::string liveText = json::compactText(live.root());
+    json::Arena arena;
+    CombineReport report;
+    const json::Object plugins =
+        objectAt(merge(json::asObject(stripped.root()), json::asObject(live.root()), arena, report),
+                 "plugins");
+    EXPECT_EQ(json::compactText(json::Value(plugins)),
+              R"({"Kept":{"b":{}},"New":{"a":[1]},"P":{"q":{},"type":"color"}})");
+    const json::Object strippedPlugins = objectAt(json::asObject(stripped.root()), "plugins");
+    const json::Object livePlugins = objectAt(json::asObject(live.root()), "plugins");
+    EXPECT_EQ(objectAt(plugins, "Kept").data(), objectAt(livePlugins, "Kept").data());
+    EXPECT_EQ(objectAt(plugins, "New").data(), objectAt(strippedPlugins, "New").data());
+    EXPECT_EQ(json::compactText(stripped.root()), strippedText);
+    EXPECT_EQ(json::compactText(live.root()), liveText);
 }
 
 }  // namespace

@@ -3,9 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <string_view>
 
-#include "combine/test_documents.h"
+#include "json/document.h"
+#include "support/exit_status.h"
+#include "support/message_of.h"
 
 namespace metagen {
 namespace {
@@ -14,25 +15,28 @@ using testing::internal::CaptureStdout;
 using testing::internal::GetCapturedStdout;
 
 /// What the clash check prints of these plugins, after its answer.
-std::string clashesOf(std::string_view plugins) {
+std::string clashesOf(const std::string& plugins) {
     CaptureStdout();
-    const bool found = reportNameClashes(objectOf(plugins));
+    const bool found = reportNameClashes(json::asObject(json::Document(plugins).root()));
     return (found ? "found\n" : "none\n") + GetCapturedStdout();
 }
 
 /// What the default value check prints of these plugins.
-std::string defaultsOf(std::string_view plugins) {
+std::string defaultsOf(const std::string& plugins) {
     CaptureStdout();
-    reportUnexpectedDefaults(objectOf(plugins));
+    reportUnexpectedDefaults(json::asObject(json::Document(plugins).root()));
     return GetCapturedStdout();
 }
 
 /// The text of the error with which the default value check gives up; empty when it does not.
-std::string defaultsMessage(std::string_view plugins) {
-    CaptureStdout();
-    const std::string message = messageOf([&] { reportUnexpectedDefaults(objectOf(plugins)); });
+std::string defaultsMessage(const std::string& plugins) {
+    const std::string message = messageOf([&] { defaultsOf(plugins); });
     EXPECT_EQ(GetCapturedStdout(), "");
     return message;
+}
+
+void check(const std::string& document) {
+    checkNamesAndDefaults(json::asObject(json::Document(document).root()));
 }
 
 TEST(ReportNameClashes, FindsNoneInAnEmptyDocument) { EXPECT_EQ(clashesOf("{}"), "none\n"); }
@@ -134,24 +138,31 @@ TEST(ReportUnexpectedDefaults, ThrowsForMembersOfAnEntryThatAreNoTexts) {
 
 TEST(CheckNamesAndDefaults, PassesADocumentWithoutPlugins) {
     CaptureStdout();
-    checkNamesAndDefaults(objectOf(R"({"plugins":{}})"));
+    check(R"({"plugins":{}})");
     EXPECT_EQ(GetCapturedStdout(), "");
 }
 
 TEST(CheckNamesAndDefaults, ThrowsWhenPluginsAreMissingOrNoObject) {
-    EXPECT_EQ(messageOf([] { checkNamesAndDefaults(objectOf("{}")); }), "invalid map<K, T> key");
-    EXPECT_EQ(messageOf([] { checkNamesAndDefaults(objectOf(R"({"plugins":[]})")); }),
-              noObjectMessage);
+    EXPECT_EQ(messageOf([] { check("{}"); }), "invalid map<K, T> key");
+    EXPECT_EQ(messageOf([] { check(R"({"plugins":[]})"); }), noObjectMessage);
 }
 
 TEST(CheckNamesAndDefaults, AnErrorInTheDefaultsWinsOverAClash) {
     CaptureStdout();
-    const std::string message = messageOf([] {
-        checkNamesAndDefaults(
-            objectOf(R"({"plugins":{"A":{"params":{"x":{}},"userData":{"x":{}}},"B":1}})"));
-    });
+    const std::string message = messageOf(
+        [] { check(R"({"plugins":{"A":{"params":{"x":{}},"userData":{"x":{}}},"B":1}})"); });
     EXPECT_EQ(GetCapturedStdout(), "A has duplicated named param and userdata - x \n");
     EXPECT_EQ(message, noObjectMessage);
+}
+
+TEST(CheckNamesAndDefaultsDeathTest, AClashEndsTheRunAfterBothChecks) {
+    const auto checkClash = [] {
+        showOutputAtExit();
+        check(R"({"plugins":{"A":{"params":{"x":{"listType":"float"}},"userData":{"x":{}}}}})");
+    };
+    EXPECT_EXIT(checkClash(), isBrokenMetadata,
+                "^A has duplicated named param and userdata - x \n"
+                "A::x : Unexpected defautValue format for type  = \n$");
 }
 
 }  // namespace

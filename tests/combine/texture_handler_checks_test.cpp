@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "combine/test_documents.h"
+#include "json/document.h"
+#include "support/exit_status.h"
+#include "support/message_of.h"
 
 namespace metagen {
 namespace {
@@ -19,7 +21,8 @@ const std::string noMode =
 /// The failures of the plugins.
 Entries failuresOf(const std::string& plugins) {
     CombineReport report;
-    checkTextureHandlers(objectOf(R"({"plugins":)" + plugins + "}"), report);
+    const json::Document document(R"({"plugins":)" + plugins + "}");
+    checkTextureHandlers(json::asObject(document.root()), report);
     return report.handlerCheckFailures;
 }
 
@@ -40,11 +43,9 @@ const std::string mode = "texture_multiplier_mode";
 
 TEST(CheckTextureHandlersDeathTest, EndsTheProcessWithoutPlugins) {
     const auto check = [] {
-        testing::internal::CaptureStdout();
+        showOutputAtExit();
         CombineReport report;
-        // What was printed must have left the process's buffers by then, so it is shown at exit.
-        std::atexit([] { std::fputs(testing::internal::GetCapturedStdout().c_str(), stderr); });
-        checkTextureHandlers(objectOf("{}"), report);
+        checkTextureHandlers({}, report);
     };
     EXPECT_EXIT(check(), testing::ExitedWithCode(1), "^Combined Json has no Plugins!\n$");
 }

@@ -9,7 +9,7 @@
 #include <stdexcept>
 
 #include "genm/table_bytes.h"
-#include "metadata/parameter_type.h"
+#include "sdk/parameter_type.h"
 #include "support/exit_status.h"
 #include "support/number_text.h"
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "genm/meta_model.h"
 #include "genm/table_bytes.h"
+#include "model/reading.h"
 
 namespace metagen {
 namespace {
@@ -21,11 +21,13 @@ std::string source(const FileTable& table) {
 }
 
 std::string bytes(const FileTable& table) {
-    return fileBytesOf([&](BinaryFile& file) { writeFileTable(file, table); });
+    std::string records;
+    appendFileRecords(records, table);
+    return records;
 }
 
 TEST(FileTables, HoldTheParametersByTheirFileMode) {
-    const MetaModel model("{'B': {'params': {'z': " + inputFile + ", 'b': " + fileBrowser +
+    const ReadModel model("{'B': {'params': {'z': " + inputFile + ", 'b': " + fileBrowser +
                           ", 'a': " + plain + "}}, 'A': {'params': {'c': " + inputFile + "}}}");
     const FileTables tables = collectFileTables(model);
     EXPECT_EQ(source(tables.files),
@@ -35,7 +37,7 @@ TEST(FileTables, HoldTheParametersByTheirFileMode) {
 }
 
 TEST(FileTables, CountUserData) {
-    const MetaModel model("{'A': {'params': {'b': " + fileBrowser +
+    const ReadModel model("{'A': {'params': {'b': " + fileBrowser +
                           "}, 'userData': {'a': " + inputFile + "}}}");
     const FileTables tables = collectFileTables(model);
     EXPECT_EQ(source(tables.files), "m.fileParams = {\n\t{ \"A\", {\"a\", \"b\"}}\n};\n");
@@ -43,7 +45,7 @@ TEST(FileTables, CountUserData) {
 }
 
 TEST(FileTables, LeaveOutPluginsWithoutFiles) {
-    const MetaModel model("{'A': {}, 'B': {'params': {'a': " + plain +
+    const ReadModel model("{'A': {}, 'B': {'params': {'a': " + plain +
                           "}}, 'C': {'params': {'a': " + fileBrowser + "}}}");
     const FileTables tables = collectFileTables(model);
     EXPECT_EQ(source(tables.files), "m.fileParams = {\n\t{ \"C\", {\"a\"}}\n};\n");

@@ -4,44 +4,45 @@
 
 #include <stdexcept>
 
-#include "genm/meta_model.h"
 #include "genm/table_bytes.h"
+#include "model/reading.h"
 
 namespace metagen {
 namespace {
 
-std::string source(const CombinedModel& model) {
-    Registrations registrations;
-    ValueArrays groups;
-    fillRegistrations(registrations, groups, model);
-    return registrations.source;
-}
+/// The registrations in both tables.
+struct Written {
+    std::string source;
+    std::string bytes;
 
-std::string bytes(const CombinedModel& model) {
-    Registrations registrations;
-    ValueArrays groups;
-    fillRegistrations(registrations, groups, model);
-    return registrations.records.str();
-}
+    explicit Written(const MetaModel& model) {
+        ValueArrays groups;
+        appendRegistrations(source, bytes, groups, model);
+    }
+};
+
+std::string source(const MetaModel& model) { return Written(model).source; }
+
+std::string bytes(const MetaModel& model) { return Written(model).bytes; }
 
 TEST(Registrations, APluginWithoutParametersIsOneLine) {
-    const MetaModel model("{'A': {'type': 'light'}}");
+    const ReadModel model("{'A': {'type': 'light'}}");
     EXPECT_EQ(source(model), "m.add(\"A\", \"light\");\n\n");
     EXPECT_EQ(bytes(model), text("A") + text("light") + u32(0));
 }
 
 TEST(Registrations, AMissingCategoryAndAnEmptyOneDifferOnlyInTheBinaryTable) {
     for (const char* plugin : {"{'A': {}}", "{'A': {'type': 3}}", "{'A': {'type': null}}"}) {
-        EXPECT_EQ(source(MetaModel(plugin)), "m.add(\"A\", \"\");\n\n");
-        EXPECT_EQ(bytes(MetaModel(plugin)), text("A") + text("\"\"") + u32(0));
+        EXPECT_EQ(source(ReadModel(plugin)), "m.add(\"A\", \"\");\n\n");
+        EXPECT_EQ(bytes(ReadModel(plugin)), text("A") + text("\"\"") + u32(0));
     }
-    const MetaModel model("{'A': {'type': ''}}");
+    const ReadModel model("{'A': {'type': ''}}");
     EXPECT_EQ(source(model), "m.add(\"A\", \"\");\n\n");
     EXPECT_EQ(bytes(model), text("A") + text("") + u32(0));
 }
 
 TEST(Registrations, ParametersAreChainedInOneStatement) {
-    const MetaModel model(
+    const ReadModel model(
         "{'A': {'type': 't', 'params': {'b': {'type': 'float', 'defaultValue': '0.5'},"
         " 'a': {'type': 'integer'}}}, 'B': {'params': {'c': {'type': 'color'}}}}");
     EXPECT_EQ(source(model),
@@ -60,7 +61,7 @@ TEST(Registrations, ParametersAreChainedInOneStatement) {
 }
 
 TEST(Registrations, FlagsAreDecimal) {
-    const MetaModel model(
+    const ReadModel model(
         "{'A': {'userData': {'f': {'type': 'string', 'handler': 'FileBrowserHandler',"
         " 'handlerinfo': {'loadMode': '1'}}}}}");
     EXPECT_EQ(source(model), "m.add(\"A\", \"\")\n\t.add(\"f\", \"string\", 7, \"\");\n\n");
@@ -69,7 +70,7 @@ TEST(Registrations, FlagsAreDecimal) {
 }
 
 TEST(Registrations, AListIsNamedAfterItsElements) {
-    const MetaModel model(
+    const ReadModel model(
         "{'A': {'params': {'a': {'type': 'list', 'listType': 'float', 'defaultValue': 'List(1)'},"
         " 'b': {'type': 'list'}}}}");
     EXPECT_EQ(source(model),
@@ -85,12 +86,12 @@ TEST(Registrations, AListIsNamedAfterItsElements) {
 }
 
 TEST(Registrations, TypeNamesStandAsTheDocumentHasThem) {
-    const MetaModel model("{'A': {'params': {'a': {'type': 'acolor texture'}}}}");
+    const ReadModel model("{'A': {'params': {'a': {'type': 'acolor texture'}}}}");
     EXPECT_EQ(source(model), "m.add(\"A\", \"\")\n\t.add(\"a\", \"acolor texture\", 0, \"\");\n\n");
 }
 
 TEST(Registrations, EqualDefaultsShareTheirArrayAcrossPlugins) {
-    const MetaModel model(
+    const ReadModel model(
         "{'A': {'params': {'a': {'type': 'color', 'defaultValue': 'Color(1, 1, 1)'},"
         " 'b': {'type': 'vector', 'defaultValue': 'Vector(1, 1, 1)'}}},"
         " 'B': {'params': {'a': {'type': 'color', 'defaultValue': 'Color(0, 0, 0)'},"
@@ -116,7 +117,7 @@ TEST(Registrations, EqualDefaultsShareTheirArrayAcrossPlugins) {
 }
 
 TEST(Registrations, ADefaultThatIsNoNumberThrows) {
-    const MetaModel model("{'A': {'params': {'a': {'type': 'float', 'defaultValue': 'x'}}}}");
+    const ReadModel model("{'A': {'params': {'a': {'type': 'float', 'defaultValue': 'x'}}}}");
     EXPECT_THROW(source(model), std::invalid_argument);
 }
 

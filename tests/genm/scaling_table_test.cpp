@@ -4,28 +4,29 @@
 
 #include <stdexcept>
 
-#include "genm/meta_model.h"
 #include "genm/table_bytes.h"
+#include "model/reading.h"
 #include "support/exit_status.h"
 
 namespace metagen {
 namespace {
 
-std::string source(const CombinedModel& model) {
+std::string source(const MetaModel& model) {
     std::string out;
     appendScalingTable(out, collectScalingTable(model), model);
     return out;
 }
 
-std::string bytes(const CombinedModel& model) {
-    return fileBytesOf(
-        [&](BinaryFile& file) { writeScalingTable(file, collectScalingTable(model), model); });
+std::string bytes(const MetaModel& model) {
+    std::string records;
+    appendScalingRecords(records, collectScalingTable(model), model);
+    return records;
 }
 
 /// A plugin "Light" with a float parameter "size" that scales as given, and others that conditions
 /// may name.
-MetaModel light(const std::string& scaling) {
-    return MetaModel("{'Light': {'params': {'size': {'type': 'float', 'scaling': " + scaling +
+ReadModel light(const std::string& scaling) {
+    return ReadModel("{'Light': {'params': {'size': {'type': 'float', 'scaling': " + scaling +
                      "}, 'mode': {'type': 'integer'}, 'on': {'type': 'bool'},"
                      " 'level': {'type': 'float'}, 'tint': {'type': 'color'},"
                      " 'map': {'type': 'float texture'}, 'exact': {'type': 'double'},"
@@ -33,7 +34,7 @@ MetaModel light(const std::string& scaling) {
                      " 'userData': {'extra': {'type': 'integer'}}}}");
 }
 
-MetaModel lightWith(const std::string& condition) {
+ReadModel lightWith(const std::string& condition) {
     return light("{'unit': 1, 'conditions': [" + condition + "]}");
 }
 
@@ -60,7 +61,7 @@ std::string conditionBytes(const std::string& condition) {
 }
 
 TEST(ScalingTable, IsNothingWithoutScalingParameters) {
-    const MetaModel model(
+    const ReadModel model(
         "{'A': {}, 'B': {'params': {'a': {'type': 'float'}, 'b':"
         " {'type': 'float', 'scaling': {'unit': 0, 'power': 3}}}}}");
     EXPECT_EQ(source(model), "");
@@ -73,7 +74,7 @@ TEST(ScalingTable, UnitAlone) {
 }
 
 TEST(ScalingTable, Power) {
-    const MetaModel model = light("{'unit': 1, 'power': 2}");
+    const ReadModel model = light("{'unit': 1, 'power': 2}");
     EXPECT_EQ(source(model),
               "m.scalingParams = {\n"
               "\t{ \"Light\", {\n"
@@ -84,7 +85,7 @@ TEST(ScalingTable, Power) {
 }
 
 TEST(ScalingTable, NegativePower) {
-    const MetaModel model = light("{'unit': 1, 'power': -1.5}");
+    const ReadModel model = light("{'unit': 1, 'power': -1.5}");
     EXPECT_EQ(source(model),
               "m.scalingParams = {\n\t{ \"Light\", {\n\t\t{ \"size\", "
               "{ Scaling::UnitType::Scene, -1, {} }}\n\t}}\n};\n");
@@ -92,7 +93,7 @@ TEST(ScalingTable, NegativePower) {
 }
 
 TEST(ScalingTable, InverseWritesThePowerToo) {
-    const MetaModel model = light("{'unit': 1, 'inverse': true}");
+    const ReadModel model = light("{'unit': 1, 'inverse': true}");
     EXPECT_EQ(source(model),
               "m.scalingParams = {\n\t{ \"Light\", {\n\t\t{ \"size\", "
               "{ Scaling::UnitType::Scene, 1, true, {} }}\n\t}}\n};\n");
@@ -100,7 +101,7 @@ TEST(ScalingTable, InverseWritesThePowerToo) {
 }
 
 TEST(ScalingTable, ConditionsWritePowerAndFlagToo) {
-    const MetaModel model = lightWith("{'op': 1, 'ref': 'mode', 'value': 3}");
+    const ReadModel model = lightWith("{'op': 1, 'ref': 'mode', 'value': 3}");
     EXPECT_EQ(source(model),
               "m.scalingParams = {\n"
               "\t{ \"Light\", {\n"
@@ -114,7 +115,7 @@ TEST(ScalingTable, ConditionsWritePowerAndFlagToo) {
 }
 
 TEST(ScalingTable, SeveralConditionsParametersAndPlugins) {
-    const MetaModel model(
+    const ReadModel model(
         "{'B': {'params': {'y': {'type': 'float', 'scaling': {'unit': 1, 'power': 3}},"
         " 'x': {'type': 'float', 'scaling': {'unit': 1, 'power': 2, 'inverse': true,"
         " 'conditions': [{'op': 1, 'ref': 'y', 'value': 0.5}, {'op': 1, 'ref': 'y',"
@@ -140,10 +141,22 @@ TEST(ScalingTable, SeveralConditionsParametersAndPlugins) {
 }
 
 TEST(ScalingTable, APluginsNameEndsAtItsFirstNul) {
-    const MetaModel model(
-        "{'A\\u0000x': {'params': {'a': {'type': 'float', 'scaling':"
-        " {'unit': 1}}}}}");
+    const ReadModel model(
+        "{'A\\u0000x': {'params': {'a': {'type': 'float', 'scaling': {'unit': 1}}}}}");
     EXPECT_EQ(source(model), "m.scalingParams = {\n\t{ \"A\", {\n\t\t{ \"a\", {} }\n\t}}\n};\n");
+    EXPECT_EQ(bytes(model),
+              u32(1) + text("A") + u32(1) + text("a") + i32(1) + i32(1) + '\0' + u32(0));
+}
+
+TEST(ScalingTable, PluginsWhoseNamesAreCutToOneShareItAndTheFirstParameterStays) {
+    const ReadModel model(
+        "{'A': {'params': {'b': {'type': 'float', 'scaling': {'unit': 1}}}}, 'A\\u0000x': "
+        "{'params':"
+        " {'a': {'type': 'float', 'scaling': {'unit': 1}},"
+        " 'b': {'type': 'float', 'scaling': {'unit': 1, 'power': 2}}}}}");
+    EXPECT_EQ(
+        source(model),
+        "m.scalingParams = {\n\t{ \"A\", {\n\t\t{ \"a\", {} },\n\t\t{ \"b\", {} }\n\t}}\n};\n");
 }
 
 TEST(ScalingCondition, FloatValues) {
@@ -180,7 +193,7 @@ TEST(ScalingCondition, IntegerAndBoolValuesAreTruncated) {
 
 TEST(ScalingCondition, AValueThatIsNoNumberIsLeftOut) {
     for (const std::string value : {"'2'", "true", "null", "[2]"}) {
-        const MetaModel model = lightWith("{'op': 1, 'ref': 'mode', 'value': " + value + "}");
+        const ReadModel model = lightWith("{'op': 1, 'ref': 'mode', 'value': " + value + "}");
         EXPECT_EQ(source(model), conditionSource("{ \"mode\", Scaling::Operation::Equals,  }"));
         EXPECT_EQ(bytes(model), conditionBytes(text("mode") + i32(1) + u32(266)));
     }
@@ -196,17 +209,17 @@ TEST(ScalingCondition, TheBinaryTableTakesAnyUnitAndOperation) {
 TEST(ScalingCondition, AnUnknownParameterThrows) {
     for (const char* condition :
          {"{'op': 1, 'ref': 'nothing', 'value': 1}", "{'op': 1}", "{'ref': 'nothing'}"}) {
-        EXPECT_THROW(
-            {
-                try {
-                    bytes(lightWith(condition));
-                } catch (const std::out_of_range& exception) {
-                    EXPECT_STREQ(exception.what(), "invalid map<K, T> key");
-                    throw;
-                }
-            },
-            std::out_of_range);
+        EXPECT_EQ(messageOf<std::out_of_range>([&] { bytes(lightWith(condition)); }),
+                  missingMessage);
     }
+    EXPECT_EQ(messageOf<std::out_of_range>([] { source(lightWith("{'op': 1}")); }), missingMessage);
+}
+
+TEST(ScalingCondition, OfAPluginWhoseNameIsCutThrows) {
+    const ReadModel model(
+        "{'A\\u0000': {'params': {'a': {'type': 'float', 'scaling':"
+        " {'unit': 1, 'conditions': [{'op': 1, 'ref': 'a'}]}}}}}");
+    EXPECT_EQ(messageOf<std::out_of_range>([&] { bytes(model); }), missingMessage);
 }
 
 TEST(ScalingConditionDeathTest, RefusesListsAndOtherTypes) {

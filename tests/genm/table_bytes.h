@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <string>
 
-#include "model/binary_bytes.h"
-
 namespace metagen {
 
 /// The bytes of a number, the lowest first.

@@ -7,19 +7,10 @@
 #include <vector>
 
 #include "json/document.h"
+#include "support/message_of.h"
 
 namespace metagen::json {
 namespace {
-
-template <typename Exception, typename Call>
-std::string messageOf(const Call& call) {
-    try {
-        call();
-    } catch (const Exception& exception) {
-        return exception.what();
-    }
-    return "nothing thrown";
-}
 
 bool areEqual(const std::string& left, const std::string& right) {
     const Document leftDocument(left);

@@ -17,14 +17,15 @@ ALLOWED = {
     "json": {"support"},
     "diff": {"json", "support"},
     "metadata": {"sdk", "support"},
-    "combine": {"metadata", "sdk", "support"},
-    "model": {"metadata", "sdk", "support"},
-    "genh": {"model", "metadata", "sdk", "support"},
-    "genm": {"model", "metadata", "sdk", "support"},
-    "cli": {"combine", "diff", "genh", "genm", "metadata", "sdk", "support"},
+    "model": {"json", "metadata", "sdk", "support"},
+    "dump": {"metadata", "sdk", "support"},
+    "combine": {"json", "metadata", "model", "sdk", "support"},
+    "genh": {"json", "model", "metadata", "sdk", "support"},
+    "genm": {"json", "model", "metadata", "sdk", "support"},
+    "cli": {"combine", "diff", "dump", "genh", "genm", "sdk", "support"},
     "main.cpp": {"cli", "support"},
-    "replay_sdk": {"sdk", "support"},
-    "benchmarks": {"genm", "metadata", "replay_sdk", "sdk", "support"},
+    "replay_sdk": {"json", "sdk", "support"},
+    "benchmarks": {"genm", "json", "metadata", "replay_sdk", "sdk", "support"},
 }
 
 PLATFORM_HEADERS = {

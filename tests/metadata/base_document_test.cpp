@@ -2,51 +2,67 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <vector>
+
+#include "sdk/fake_sdk.h"
 #include "support/exit_status.h"
 
 namespace metagen {
 namespace {
 
-std::string parameter(bool isList, std::int32_t code, TaggedValue value) {
-    std::string out;
-    std::string buffer = "left over";
-    appendParameter(
-        out, describe({.isList = isList, .code = code, .defaultValue = std::move(value)}, buffer));
-    return out;
+using testing::FakeClass;
+using testing::FakeParameter;
+using testing::FakeSdk;
+
+FakeParameter boolean(const char* name) {
+    return {.name = name, .code = 3, .defaultValue = [](FakeSdk&, QyraValue& value) {
+                value.kind = 3;
+                value.boolean = 1;
+            }};
 }
 
-PluginRecord plugin(const char* parameterName, std::int32_t code) {
-    return {
-        .category = {},
-        .parameters = {{.name = parameterName,
-                        .record = {.code = code, .defaultValue = {.tag = 3, .payload = true}}}}};
+/// A parameter whose type has no name.
+const FakeParameter nameless = {.name = "p", .code = 50};
+
+std::string documentOf(FakeSdk& sdk, std::vector<FakeClass> classes) {
+    sdk.classes = std::move(classes);
+    return BaseDocument(Renderer()).text();
 }
 
-TaggedValue text(const char* content) { return {.tag = 9, .payload = std::string(content)}; }
+std::string documentOf(std::vector<FakeClass> classes) {
+    FakeSdk sdk;
+    return documentOf(sdk, std::move(classes));
+}
 
-TEST(BaseDocument, OfNothing) { EXPECT_EQ(BaseDocument().text(), "{\"plugins\":{}}"); }
+TEST(BaseDocument, OfNothing) {
+    EXPECT_EQ(documentOf({}), R"({"plugins":{}})");
+    FakeSdk sdk;
+    sdk.hasNullClassNames = true;
+    EXPECT_EQ(documentOf(sdk, {{.name = "A"}}), R"({"plugins":{}})");
+}
 
 TEST(BaseDocument, NamesStandUnescaped) {
-    BaseDocument document;
-    document.add("A\"\\", plugin("p\"", 3));
-    EXPECT_EQ(document.text(),
+    EXPECT_EQ(documentOf({{.name = "A\"\\", .parameters = {boolean("p\"")}}}),
               "{\"plugins\":{\"A\"\\\":{\"type\":null,\"params\":{\"p\"\":"
               "{\"type\":\"bool\",\"defaultValue\":\"1\"}}}}}");
 }
 
 TEST(BaseDocument, ClassesAreOrderedAndTheFirstOfEqualOnesStays) {
-    BaseDocument document;
-    document.add("b", {});
-    document.add("A_c", {.category = "light", .parameters = {}});
-    document.add("a.C", plugin("dropped", 3));
-    EXPECT_EQ(document.text(), R"({"plugins":{"A_c":{"type":"light","params":{}},)"
-                               R"("b":{"type":null,"params":{}}}})");
+    FakeSdk sdk;
+    EXPECT_EQ(documentOf(sdk, {{.name = "b"},
+                               {.name = "A_c", .categoryBits = 1U << 4U},
+                               {.name = "a.C", .parameters = {boolean("dropped")}}}),
+              R"({"plugins":{"A_c":{"type":"light","params":{}},)"
+              R"("b":{"type":null,"params":{}}}})");
+    // It is asked about nevertheless.
+    EXPECT_EQ(std::ranges::count(sdk.calls, "default dropped"), 1);
 }
 
 TEST(BaseDocument, IsTheSameInAFile) {
-    BaseDocument document;
-    document.add("b", plugin("p", 3));
-    document.add("a", {});
+    FakeSdk sdk;
+    sdk.classes = {{.name = "b", .parameters = {boolean("p")}}, {.name = "a"}};
+    const BaseDocument document{Renderer()};
     std::FILE* file = std::tmpfile();
     ASSERT_NE(file, nullptr);
     document.write(file);
@@ -58,58 +74,27 @@ TEST(BaseDocument, IsTheSameInAFile) {
 }
 
 TEST(BaseDocument, ATypeWithoutNameCountsOnlyInAClassThatIsKept) {
-    BaseDocument document;
-    document.add("a", {});
-    document.add("A", plugin("p", 50));
-    EXPECT_EQ(document.text(), R"({"plugins":{"a":{"type":null,"params":{}}}})");
+    EXPECT_EQ(documentOf({{.name = "a"}, {.name = "A", .parameters = {nameless}}}),
+              R"({"plugins":{"a":{"type":null,"params":{}}}})");
 }
 
 TEST(BaseDocumentDeathTest, ATypeWithoutNameEndsTheProcessWhenTheTextIsMade) {
-    BaseDocument document;
-    document.add("a", plugin("p", 50));
-    EXPECT_EXIT(static_cast<void>(document.text()), isBrokenMetadata, "");
+    FakeSdk sdk;
+    sdk.classes = {{.name = "a", .parameters = {nameless}}, {.name = "b"}};
+    const BaseDocument document{Renderer()};
+    EXPECT_EXIT((showOutputAtExit(), static_cast<void>(document.text())), isBrokenMetadata,
+                "^Error No Ovix Type!\n$");
+    EXPECT_EXIT((showOutputAtExit(), document.write(stderr)), isBrokenMetadata,
+                "^Error No Ovix Type!\n$");
 }
 
-TEST(BaseDocumentParameter, TheDefaultTextIsEscaped) {
-    EXPECT_EQ(parameter(false, 9, text("a\"\n/")), R"({"type":"string","defaultValue":"a\"\n/"})");
-}
-
-TEST(BaseDocumentParameter, AnEmptyDefaultTextIsWritten) {
-    EXPECT_EQ(parameter(false, 9, text("")), R"({"type":"string","defaultValue":""})");
-}
-
-TEST(BaseDocumentParameter, TwoQuotesAndNoneAreNoDefault) {
-    EXPECT_EQ(parameter(false, 9, text("\"\"")), R"({"type":"string"})");
-    EXPECT_EQ(parameter(false, 9, text("none")), R"({"type":"string"})");
-    EXPECT_EQ(parameter(false, 9, text("None")), R"({"type":"string","defaultValue":"None"})");
-    EXPECT_EQ(parameter(false, 9, text("\"\" ")), R"({"type":"string","defaultValue":"\"\" "})");
-}
-
-TEST(BaseDocumentParameter, ADoubleIsNamedFloat) {
-    EXPECT_EQ(parameter(false, 2, {.tag = 2, .payload = 0.5}),
-              R"({"type":"float","defaultValue":"0.5"})");
-}
-
-TEST(BaseDocumentParameter, AnEmptyListHasNoDefault) {
-    EXPECT_EQ(parameter(true, 101, {.tag = 101, .payload = std::vector<float>{}}),
-              R"({"type":"list","listType":"float"})");
-    EXPECT_EQ(parameter(true, 12, {.tag = 12, .payload = std::vector<TaggedValue>{}}),
-              R"({"type":"list","listType":"list"})");
-}
-
-TEST(BaseDocumentParameter, AListWithoutAListDefaultHasNone) {
-    EXPECT_EQ(parameter(true, 1, {.tag = 1, .payload = 0.5F}),
-              R"({"type":"list","listType":"float"})");
-}
-
-TEST(BaseDocumentParameter, AListWithElementsHasADefaultWhateverItsText) {
-    EXPECT_EQ(parameter(true, 109, {.tag = 109, .payload = std::vector<std::string>{"\""}}),
-              R"json({"type":"list","listType":"string","defaultValue":"StringList(\")"})json");
-}
-
-TEST(BaseDocumentParameter, ASingleParameterWritesAListDefaultsText) {
-    EXPECT_EQ(parameter(false, 100, {.tag = 100, .payload = std::vector<std::int32_t>{}}),
-              R"json({"type":"integer","defaultValue":"IntList()"})json");
+TEST(BaseDocumentDeathTest, WhatIsWrongWithALaterClassComesFirst) {
+    const auto endOfB = [] {
+        showOutputAtExit();
+        documentOf({{.name = "a", .parameters = {nameless}},
+                    {.name = "b", .categoryBits = 1U << 2U | 1U << 6U}});
+    };
+    EXPECT_EXIT(endOfB(), ::testing::ExitedWithCode(1), "^Plugin type: b has ");
 }
 
 }  // namespace

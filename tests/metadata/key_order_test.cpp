@@ -57,30 +57,5 @@ TEST(CombinedKeyOrder, ASetKeepsTheFirstOfEqualKeys) {
               (std::vector<std::string>{"type", "A_1", "b", "Type"}));
 }
 
-TEST(CombinedKeyPrefix, IsInTheOrderOfTheKeysWhereItDiffers) {
-    std::vector<std::string> keys = {"type", "Type", "typ", "type_", "typea", ""};
-    for (const char first : {'\x80', '\xff', '\0', '_', 'A', 'z'}) {
-        for (const char second : {'\x80', '\xc3', '.', 'a', 'Z'}) {
-            keys.push_back({first});
-            keys.push_back({first, second});
-            keys.push_back({first, second, first});
-            keys.push_back(std::string("sixbyt") + first + second);
-            keys.push_back(std::string("seven_b") + first + second);
-            keys.push_back(std::string("eight_by") + first + second);
-        }
-    }
-    std::size_t different = 0;
-    for (const std::string& left : keys) {
-        for (const std::string& right : keys) {
-            if (combinedKeyPrefix(left) == combinedKeyPrefix(right)) continue;
-            ++different;
-            EXPECT_EQ(combinedKeyPrefix(left) < combinedKeyPrefix(right), less(left, right))
-                << testing::PrintToString(left) << ' ' << testing::PrintToString(right);
-        }
-    }
-    EXPECT_GT(different, keys.size() * keys.size() * 3 / 4);
-    EXPECT_EQ(combinedKeyPrefix("File.Name"), combinedKeyPrefix("file_name_of"));
-}
-
 }  // namespace
 }  // namespace metagen

@@ -1,62 +1,42 @@
-// Helpers of the model's tests: documents from literals, entries as one line of text each, the
-// messages of errors.
+// What is read of a "plugins" object, for the tests of the models and of the tables that are made
+// of them.
 #pragma once
 
-#include <string>
-#include <string_view>
+#include <gtest/gtest.h>
 
-#include "model/combined_model.h"
-#include "support/json.h"
-#include "support/number_text.h"
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "json/document.h"
+#include "model/meta_model.h"
+#include "support/message_of.h"
 
 namespace metagen {
 
-inline json::Value documentOf(std::string_view text) { return json::parse(text).value(); }
-
-/// The message of the exception that the call throws, which is exactly an Exception.
-template <typename Exception, typename Call>
-std::string messageOf(const Call& call) {
-    try {
-        call();
-    } catch (const Exception& exception) {
-        return typeid(exception) == typeid(Exception) ? exception.what() : "another exception";
-    }
-    return "nothing thrown";
+/// A document; for legibility, in its text single quotes stand for double ones.
+inline json::Document documentOf(std::string text) {
+    std::ranges::replace(text, '\'', '"');
+    return json::Document(std::move(text));
 }
 
-/// The texts of the JSON library's errors.
-inline const std::string notAnObject =
-    "\"type mismatch! call is<type>() before get<type>()\" && is<object>()";
-inline const std::string notAString =
-    "\"type mismatch! call is<type>() before get<type>()\" && is<std::string>()";
+inline json::Object objectOf(const json::Document& document) {
+    EXPECT_TRUE(document.isValid()) << document.text();
+    return json::asObject(document.root());
+}
 
-struct DefaultText {
-    std::string operator()(std::monostate) const { return "none"; }
-    std::string operator()(std::int32_t number) const { return "int " + std::to_string(number); }
-    std::string operator()(float number) const { return "float " + formatFloatLiteral(number); }
-    std::string operator()(double number) const { return "double " + std::to_string(number); }
-    std::string operator()(bool flag) const { return flag ? "bool true" : "bool false"; }
-    std::string operator()(const Color& color) const { return "color " + formatFloatList(color); }
-    std::string operator()(const AColor& color) const { return "acolor " + formatFloatList(color); }
-    std::string operator()(const std::string* text) const { return "text '" + *text + "'"; }
+/// The model of a "plugins" object, together with the document that it borrows from.
+class ReadModel {
+public:
+    explicit ReadModel(std::string plugins)
+        : document(documentOf(std::move(plugins))), model(readMeta(objectOf(document))) {}
+
+    // NOLINTNEXTLINE(google-explicit-constructor): reads like the model itself
+    operator const MetaModel&() const { return model; }
+
+private:
+    json::Document document;
+    MetaModel model;
 };
-
-inline std::string textOf(const std::string* text) { return text == nullptr ? "-" : *text; }
-
-/// Every field of the entry.
-inline std::string textOf(const ParamEntry& entry) {
-    std::string text = "state " + std::to_string(entry.handlerState) + ", flags " +
-                       std::to_string(entry.flags) + ", file " + std::to_string(entry.fileMode) +
-                       ", list " + std::to_string(entry.isList) + ", type " +
-                       textOf(entry.typeName) + ", default " +
-                       std::visit(DefaultText(), entry.defaultValue) + ", scale " +
-                       std::to_string(entry.scaleUnit) + " " + std::to_string(entry.scalePower) +
-                       (entry.scaleInverse ? " inverse" : "");
-    for (const ScaleCondition& condition : entry.conditions) {
-        text += ", if " + std::to_string(condition.op) + " '" + condition.ref + "' " +
-                json::compactText(condition.value);
-    }
-    return text;
-}
 
 }  // namespace metagen

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "sdk/entry_point_table.h"
+#include "sdk/exceptions.h"
 #include "sdk/fake_sdk.h"
 
 namespace metagen {
@@ -26,6 +28,14 @@ TEST(SdkMemory, ANullVectorIsEmptyAndANullTextToo) {
     FakeSdk sdk;
     EXPECT_TRUE(takeTexts(nullptr).empty());
     EXPECT_EQ(takeTexts(sdk.makeTextVector({nullptr})), std::vector<std::string>{""});
+}
+
+TEST(SdkMemory, AVectorIsReleasedHoweverItsReadingEnds) {
+    FakeSdk sdk;
+    entryPoints().getVectorElement = [](const void*, std::uint32_t) -> const char* {
+        throw Qyra::QyraException("no element");
+    };
+    EXPECT_THROW(takeTexts(sdk.makeTextVector({"a"})), Qyra::QyraException);
 }
 
 TEST(SdkMemory, AValueFreesItsText) {
@@ -76,6 +86,30 @@ TEST(SdkMemory, AListWithoutAnArrayHasNoElements) {
     value.raw.count = 4;
     value.raw.elements = nullptr;
     EXPECT_TRUE(elementsOf<QyraValue>(value.raw).empty());
+}
+
+TEST(ElementCount, IsThatOfAListWithAnArray) {
+    int array = 0;
+    QyraValue value = {};
+    value.count = 3;
+    for (const std::int32_t kind : {12, 100, 101, 104, 105, 108, 109, 110}) {
+        value.kind = kind;
+        value.elements = &array;
+        EXPECT_EQ(elementCount(value), 3U) << kind;
+        value.elements = nullptr;
+        EXPECT_EQ(elementCount(value), 0U) << kind;
+    }
+}
+
+TEST(ElementCount, OfWhatIsNoListIsZero) {
+    char text[] = "text";
+    QyraValue value = {};
+    value.count = 3;
+    value.text = text;
+    for (const std::int32_t kind : {-1, 0, 9, 10, 11, 99, 102, 103, 106, 107, 111, 10000}) {
+        value.kind = kind;
+        EXPECT_EQ(elementCount(value), 0U) << kind;
+    }
 }
 
 }  // namespace

@@ -24,6 +24,24 @@ std::string integer(std::int64_t number) {
     return out;
 }
 
+std::string literal(float number) {
+    std::string out;
+    appendFloatLiteral(out, number);
+    return out;
+}
+
+std::string literal(std::int32_t number) {
+    std::string out;
+    appendIntegerLiteral(out, number);
+    return out;
+}
+
+std::string listOf(std::span<const float> numbers) {
+    std::string out;
+    appendFloatList(out, numbers);
+    return out;
+}
+
 TEST(GeneralNumber, SixSignificantDigitsInTheShortestForm) {
     EXPECT_EQ(general(1), "1");
     EXPECT_EQ(general(0.5), "0.5");
@@ -83,37 +101,43 @@ TEST(IntegerText, SmallestAndLargest) {
     EXPECT_EQ(integer(0), "0");
 }
 
+TEST(IntegerLiteral, OnlyTheSmallestHasAName) {
+    EXPECT_EQ(literal(std::numeric_limits<std::int32_t>::min()), "INT_MIN");
+    EXPECT_EQ(literal(-2147483647), "-2147483647");
+    EXPECT_EQ(literal(0), "0");
+}
+
 TEST(FloatLiteral, WholeNumbersUpToSixDigitsEndInPointF) {
-    EXPECT_EQ(formatFloatLiteral(1.0F), "1.f");
-    EXPECT_EQ(formatFloatLiteral(-3.0F), "-3.f");
-    EXPECT_EQ(formatFloatLiteral(0.0F), "0.f");
-    EXPECT_EQ(formatFloatLiteral(999999.0F), "999999.f");
-    EXPECT_EQ(formatFloatLiteral(-999999.0F), "-999999.f");
+    EXPECT_EQ(literal(1.0F), "1.f");
+    EXPECT_EQ(literal(-3.0F), "-3.f");
+    EXPECT_EQ(literal(0.0F), "0.f");
+    EXPECT_EQ(literal(999999.0F), "999999.f");
+    EXPECT_EQ(literal(-999999.0F), "-999999.f");
 }
 
 TEST(FloatLiteral, OtherNumbersEndInF) {
-    EXPECT_EQ(formatFloatLiteral(0.5F), "0.5f");
-    EXPECT_EQ(formatFloatLiteral(0.1234567F), "0.123457f");
-    EXPECT_EQ(formatFloatLiteral(1000000.0F), "1e+06f");
-    EXPECT_EQ(formatFloatLiteral(-1000000.0F), "-1e+06f");
-    EXPECT_EQ(formatFloatLiteral(1234567.0F), "1.23457e+06f");
-    EXPECT_EQ(formatFloatLiteral(1.0F / 3.0F), "0.333333f");
+    EXPECT_EQ(literal(0.5F), "0.5f");
+    EXPECT_EQ(literal(0.1234567F), "0.123457f");
+    EXPECT_EQ(literal(1000000.0F), "1e+06f");
+    EXPECT_EQ(literal(-1000000.0F), "-1e+06f");
+    EXPECT_EQ(literal(1234567.0F), "1.23457e+06f");
+    EXPECT_EQ(literal(1.0F / 3.0F), "0.333333f");
 }
 
 TEST(FloatLiteral, FractionsNextToTheBound) {
-    EXPECT_EQ(formatFloatLiteral(999999.5F), "1e+06f");
-    EXPECT_EQ(formatFloatLiteral(999998.5F), "999998f");  // six digits, ties to even
+    EXPECT_EQ(literal(999999.5F), "1e+06f");
+    EXPECT_EQ(literal(999998.5F), "999998f");  // six digits, ties to even
 }
 
 TEST(FloatLiteral, InfinityAndNanAreNoWholeNumbers) {
-    EXPECT_EQ(formatFloatLiteral(std::numeric_limits<float>::infinity()), "inff");
-    EXPECT_EQ(formatFloatLiteral(std::numeric_limits<float>::quiet_NaN()), "nanf");
+    EXPECT_EQ(literal(std::numeric_limits<float>::infinity()), "inff");
+    EXPECT_EQ(literal(std::numeric_limits<float>::quiet_NaN()), "nanf");
 }
 
 TEST(FloatList, LiteralsSeparatedByCommaAndBlank) {
-    EXPECT_EQ(formatFloatList(std::array{1.0F, 0.5F, 0.25F}), "1.f, 0.5f, 0.25f");
-    EXPECT_EQ(formatFloatList(std::array{2.0F}), "2.f");
-    EXPECT_EQ(formatFloatList({}), "");
+    EXPECT_EQ(listOf(std::array{1.0F, 0.5F, 0.25F}), "1.f, 0.5f, 0.25f");
+    EXPECT_EQ(listOf(std::array{2.0F}), "2.f");
+    EXPECT_EQ(listOf({}), "");
 }
 
 }  // namespace

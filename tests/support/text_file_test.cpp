@@ -3,28 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <optional>
-#include <random>
 #include <string>
+
+#include "support/temporary_file.h"
 
 namespace metagen {
 namespace {
 
-/// A path in the tests' temporary folder that no other test has, run beside this one or not;
-/// removed after use.
-class TextFile : public testing::Test {
+class TextFile : public ::testing::Test {
 protected:
-    TextFile()
-        : path(testing::TempDir() + "metagen_text_file_" + std::to_string(std::random_device()())) {
-    }
-    ~TextFile() override { std::filesystem::remove_all(path); }
+    std::string read() const { return place.read(); }
 
-    std::string read() const {
-        const std::optional<FileText> text = readAll(openForReading(path.c_str()).get());
-        return std::string(text.value().view());
-    }
-
-    std::string path;
+    const testing::TemporaryFile place = testing::TemporaryFile("file");
+    const std::string path = place.path();
 };
 
 TEST_F(TextFile, ReadsWhatWasWritten) {
@@ -49,15 +40,27 @@ TEST_F(TextFile, PiecesAreWrittenOneBehindTheOther) {
     std::string text;
     {
         const File file = openForWriting(path.c_str());
-        PieceWriter writer(file.get());
         for (const std::size_t length : {3U, 0U, 65'000U, 1'000U, 200'000U, 1U}) {
             const std::string piece(length, static_cast<char>('a' + length % 26));
-            writer.append(piece);
+            writeAll(file.get(), piece);
             text += piece;
         }
-        writer.finish();
     }
     EXPECT_EQ(read(), text);
+}
+
+TEST_F(TextFile, ReadsTheRest) {
+    writeAll(openForWriting(path.c_str()).get(), "first, rest");
+    const File file = openForReading(path.c_str());
+    EXPECT_EQ(std::fgetc(file.get()), 'f');
+    EXPECT_EQ(readAll(file.get()), "irst, rest");
+    EXPECT_EQ(readAll(file.get()), "");
+}
+
+TEST_F(TextFile, BytesStayAsTheyAre) {
+    writeAll(openForWriting(path.c_str(), "wb").get(), std::string_view("a\n\0\r\n", 5));
+    EXPECT_EQ(std::filesystem::file_size(path), 5U);
+    EXPECT_EQ(sizeOf(openForReading(path.c_str()).get()), 5U);
 }
 
 TEST_F(TextFile, AMissingFileOrFolderCanNotBeOpened) {

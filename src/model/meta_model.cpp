@@ -1,0 +1,127 @@
+#include "model/meta_model.h"
+
+#include <string>
+#include <utility>
+
+#include "sdk/parameter_type.h"
+#include "support/end_run.h"
+#include "support/numeric.h"
+
+namespace metagen {
+
+namespace {
+
+/// The member truncated toward zero when it is a number, otherwise the fallback.
+std::int32_t readNumber(json::Object object, std::string_view key, std::int32_t fallback) {
+    const json::Value* member = json::find(object, key);
+    const auto number = member == nullptr ? std::nullopt : member->number();
+    return number ? toInt32(*number) : fallback;
+}
+
+ScaleCondition readCondition(json::Object object) {
+    ScaleCondition condition;
+    condition.op = readNumber(object, "op", condition.op);
+    if (const json::Value* ref = json::find(object, "ref")) {
+        condition.ref = ref->text().value_or(condition.ref);
+    }
+    if (const json::Value* value = json::find(object, "value")) condition.value = value->number();
+    return condition;
+}
+
+Scaling readScaling(json::Object object) {
+    Scaling scaling;
+    scaling.unit = readNumber(object, "unit", scaling.unit);
+    scaling.power = readNumber(object, "power", scaling.power);
+    if (const json::Value* inverse = json::find(object, "inverse")) {
+        scaling.inverse = inverse->boolean().value_or(scaling.inverse);
+    }
+    const json::Value* conditions = json::find(object, "conditions");
+    if (conditions == nullptr) return scaling;
+    for (const json::Value& condition : conditions->array().value_or(json::Array())) {
+        if (const auto members = condition.object()) {
+            scaling.conditions.push_back(readCondition(*members));
+        }
+    }
+    return scaling;
+}
+
+std::uint32_t readFileFlags(json::Object object) {
+    const json::Value* handler = json::find(object, "handler");
+    const json::Value* info = json::find(object, "handlerinfo");
+    if (handler == nullptr || info == nullptr) return 0;
+    if (json::asText(*handler) != "FileBrowserHandler") return 0;
+    const json::Value* loadMode = json::find(json::asObject(*info), "loadMode");
+    const bool isOne = loadMode != nullptr && json::asText(*loadMode) == "1";
+    return param_flag::fileBrowser | (isOne ? param_flag::loadModeOne : 0);
+}
+
+std::string_view readTypeName(json::Object object, std::string_view type) {
+    const json::Value* listType = type == "list" ? json::find(object, "listType") : nullptr;
+    return listType == nullptr ? type : json::asText(*listType);
+}
+
+// In the order in which what is wrong with a parameter shows.
+MetaParameter readParameter(std::string_view name, json::Object object, std::uint32_t originFlag) {
+    MetaParameter parameter;
+    parameter.name = name;
+    const std::string_view type = json::asText(json::at(object, "type"));
+    parameter.typeName = readTypeName(object, type);
+    parameter.flags = originFlag | readFileFlags(object);
+    if (const json::Value* scaling = json::find(object, "scaling")) {
+        Scaling read = readScaling(json::asObject(*scaling));
+        if (read.unit != 0) parameter.scaling = std::make_unique<Scaling>(std::move(read));
+    }
+    parameter.code = typeCode(type, parameter.typeName);
+    if (parameter.code == type_code::unknown) {
+        endRun(failureStatus, "Type: " + std::string(type) + " converts to an error\n");
+    }
+    if (const json::Value* text = json::find(object, "defaultValue")) {
+        parameter.defaultText = json::asText(*text);
+    }
+    return parameter;
+}
+
+/// Adds the entries of a member of the plugin, which it may lack.
+void readParameters(json::Object plugin, std::string_view key, std::uint32_t originFlag,
+                    std::vector<MetaParameter>& parameters) {
+    const json::Value* member = json::find(plugin, key);
+    if (member == nullptr) return;
+    const json::Object entries = json::asObject(*member);
+    parameters.reserve(parameters.size() + entries.size());
+    for (const auto& [name, value] : entries) {
+        parameters.push_back(readParameter(name, json::asObject(value), originFlag));
+    }
+}
+
+/// Puts user data, which follow the parameters, in order among them.
+void mergeUserData(std::vector<MetaParameter>& parameters, std::size_t paramCount) {
+    if (parameters.size() == paramCount) return;
+    const auto userData = parameters.begin() + static_cast<std::ptrdiff_t>(paramCount);
+    std::ranges::inplace_merge(parameters, userData, {}, &MetaParameter::name);
+    const auto repeated = std::ranges::unique(parameters, {}, &MetaParameter::name);
+    parameters.erase(repeated.begin(), repeated.end());
+}
+
+MetaPlugin readPlugin(std::string_view name, json::Object object) {
+    MetaPlugin plugin;
+    plugin.name = name;
+    readParameters(object, "params", 0, plugin.parameters);
+    const std::size_t paramCount = plugin.parameters.size();
+    readParameters(object, "userData", param_flag::fromUserData, plugin.parameters);
+    mergeUserData(plugin.parameters, paramCount);
+    if (const json::Value* type = json::find(object, "type")) plugin.category = type->text();
+    return plugin;
+}
+
+}  // namespace
+
+MetaModel readMeta(json::Object plugins) {
+    MetaModel model;
+    model.reserve(plugins.size());
+    for (const auto& [name, plugin] : plugins) {
+        model.push_back(readPlugin(name, json::asObject(plugin)));
+    }
+    return model;
+}
+
+}  // namespace metagen

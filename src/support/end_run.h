@@ -1,0 +1,24 @@
+// What the tool prints, and the orderly ends of the process that commands use when they can't go
+// on.
+#pragma once
+
+#include <string_view>
+
+namespace metagen {
+
+/// Exit statuses. Broken metadata shows as 255 where the system keeps eight bits of a status.
+inline constexpr int failureStatus = 1;
+inline constexpr int brokenMetadataStatus = -1;
+
+/// Writes the text to standard output as it is, embedded NULs included.
+void print(std::string_view text);
+
+/// Prints the text, flushes standard output and ends the process with the status. Files written so
+/// far stay as they are.
+[[noreturn]] void endRun(int status, std::string_view text);
+
+/// When the condition is false, writes the message to standard error as it is, with no line feed
+/// added, and ends the process with status 1. What was printed before is flushed.
+void requireOrExit(bool condition, std::string_view message);
+
+}  // namespace metagen
