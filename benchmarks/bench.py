@@ -21,8 +21,6 @@ def arguments():
     parser = argparse.ArgumentParser(prog="./bench", description=__doc__)
     parser.add_argument("--smoke", action="store_true",
                         help="run everything once at scale 1 and compare the outputs")
-    parser.add_argument("--micro", action="store_true",
-                        help="run the micro-benchmarks instead")
     parser.add_argument("--scale", type=float, action="append", metavar="N",
                         help="1 is 600 classes and 15,000 parameters (default: 1, 10 and 100)")
     parser.add_argument("--command", choices=subjects.COMMANDS, action="append",

@@ -17,6 +17,9 @@ class Result:
     floor: float
     ratio: float
     peak_ratio: float
+    limit: float  # 0 without one
+    limit_ratio: float
+    limit_peak_ratio: float
     peers: dict  # name to time
 
 
@@ -39,21 +42,32 @@ def one_round(programs, bench, backwards):
 
 
 def measure(subject, bench, rounds, *, warm=True):
-    programs = [subject.tool, subject.floor, *subject.asks]
+    below = [subject.floor, subject.limit or subject.floor]
+    programs = [subject.tool, *below, *subject.asks]
     if warm:
         one_round(programs, bench, False)
     costs = [one_round(programs, bench, number % 2 == 1) for number in range(rounds)]
-    tool, floor = ([each[index] for each in costs] for index in (0, 1))
-    sdk = [library_time(each[2:]) for each in costs]
+    tool, floor, limit = ([each[index] for each in costs] for index in (0, 1, 2))
+    sdk = [library_time(each[3:]) for each in costs]
+
+    def time_ratio(others):
+        return median((own.time - library) / other.time
+                      for own, library, other in zip(tool, sdk, others))
+
+    def peak_ratio(others):
+        return median(cost.peak for cost in tool) / median(cost.peak for cost in others)
+
     return Result(
         time=median(cost.time for cost in tool),
         user=median(cost.user for cost in tool),
         peak=median(cost.peak for cost in tool),
         sdk=median(sdk),
         floor=median(cost.time for cost in floor),
-        ratio=median((own.time - library) / below.time
-                     for own, library, below in zip(tool, sdk, floor)),
-        peak_ratio=median(cost.peak for cost in tool) / median(cost.peak for cost in floor),
+        ratio=time_ratio(floor),
+        peak_ratio=peak_ratio(floor),
+        limit=median(cost.time for cost in limit) if subject.limit else 0.0,
+        limit_ratio=time_ratio(limit),
+        limit_peak_ratio=peak_ratio(limit),
         peers={})
 
 

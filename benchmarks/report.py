@@ -3,7 +3,8 @@
 import subjects
 
 HEADINGS = ("command", "S", "{time} ms", "user ms", "peak MB", "SDK ms", "floor ms", "ratio", "bar",
-            "peak/floor", "bar", "growth: time", "peak", "bar", "peers, times slower")
+            "peak/floor", "bar", "limit ms", "ratio", "peak/limit", "growth: time", "peak", "bar",
+            "peers, times slower")
 
 
 def milliseconds(seconds):
@@ -20,9 +21,17 @@ def text_of_bar(bar, sign="<="):
     return "" if bar is None else f"{sign} {bar:g}"
 
 
-def time_bar(command, scale):
+def bar_of(bars, command, scale):
     holds = command == "start" or scale >= subjects.BARS_FROM_SCALE
-    return subjects.TIME_BARS[command] if holds else None
+    return bars.get(command) if holds else None
+
+
+def limit_cells(result, command, scale):
+    if not result.limit:
+        return ["", "", ""]
+    return [milliseconds(result.limit),
+            judged(result.limit_ratio, bar_of(subjects.LIMIT_TIME_BARS, command, scale)),
+            judged(result.limit_peak_ratio, bar_of(subjects.LIMIT_PEAK_BARS, command, scale))]
 
 
 def peers_text(result):
@@ -43,8 +52,8 @@ def growth_cells(result, smaller, factor):
 
 def row(command, scale, results):
     result = results[command, scale]
-    bar = time_bar(command, scale)
-    peak_bar = None if bar is None or command == "start" else subjects.PEAK_BAR
+    bar = bar_of(subjects.TIME_BARS, command, scale)
+    peak_bar = bar_of(subjects.PEAK_BARS, command, scale)
     before = [each for name, each in results if name == command and each < scale]
     smaller = max(before, default=None)
     growth = growth_cells(result, results.get((command, smaller)),
@@ -52,8 +61,8 @@ def row(command, scale, results):
     return [command, f"{scale:g}", milliseconds(result.time), milliseconds(result.user),
             f"{result.peak / 1e6:.1f}", milliseconds(result.sdk) if result.sdk else "",
             milliseconds(result.floor), judged(result.ratio, bar), text_of_bar(bar),
-            judged(result.peak_ratio, peak_bar), text_of_bar(peak_bar), *growth,
-            peers_text(result)]
+            judged(result.peak_ratio, peak_bar), text_of_bar(peak_bar),
+            *limit_cells(result, command, scale), *growth, peers_text(result)]
 
 
 def table(results, time):

@@ -94,6 +94,7 @@ def check_start(bench):
 
 
 CHECKS = {
+    "parse": (),
     "dump": (check_dump, check_ledgers),
     "combine": (check_combine,),
     "diff": (check_diff,),
@@ -105,7 +106,8 @@ CHECKS = {
 
 def run_once(subject, bench):
     """Every program; what the tool prints is kept as the summary."""
-    for program in (subject.floor, *subject.asks, *subject.peers.values()):
+    limit = [subject.limit] if subject.limit else []
+    for program in (subject.floor, *limit, *subject.asks, *subject.peers.values()):
         program.measure(bench)
     subject.tool.measure(bench)
     bench.path("stdout.txt").replace(bench.path("summary.txt"))

@@ -29,17 +29,10 @@ void forEachText(void* vector, const Visit& visit) {
 }
 
 void askInstance(const QyraPluginReference& reference, bool isListed) {
-    const auto& sdk = entryPoints();
-    const std::int64_t id = metagen::pluginIdOf(reference.pluginId);
-    if (!isListed) {
-        if (id == 0 || id == -1) return;
-        if (sdk.Qyra_QyraRenderer_pluginExistsByID(reference.renderer, id) == 0) return;
-    }
-    sdk.Qyra_QyraRenderer_getPluginName(reference.renderer, id);
-    if (!isListed && reference.propertyIndex > 0) {
-        sdk.Qyra_QyraRenderer_getPropertyNameFromIndexByID(reference.renderer, id,
-                                                           reference.propertyIndex);
-    }
+    if (!isListed && !metagen::pluginExists(reference)) return;
+    static_cast<void>(metagen::pluginName(reference));
+    if (isListed || reference.propertyIndex < 1) return;
+    static_cast<void>(metagen::propertyName(reference));
 }
 
 /// The names of the plugins that the value refers to, as its text has them.

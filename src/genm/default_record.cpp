@@ -1,7 +1,5 @@
 #include "genm/default_record.h"
 
-#include <utility>
-
 #include "model/binary_table.h"
 #include "sdk/parameter_type.h"
 #include "support/escaped_text.h"
@@ -29,20 +27,20 @@ struct DefaultTextWriter {
     }
     void operator()(const DescriptorOnly& record) const { out += record.descriptor->text; }
     void operator()(const IntegerArray& record) const {
-        appendArray(record.descriptor, {record.values.begin(), record.values.end()},
-                    array_prefix::integers);
+        const std::vector<float> values(record.values.begin(), record.values.end());
+        appendArray(record.descriptor, values, array_prefix::integers);
     }
-    void operator()(FloatArray&& record) const {
+    void operator()(const FloatArray& record) const {
         // Only here do the two tables differ: the binary one has the descriptor all the same.
         if (isUnreadable(record)) return (*this)(std::string_view());
-        appendArray(record.descriptor, std::move(record.values), record.prefix);
+        appendArray(record.descriptor, record.values, record.prefix);
     }
 
-    void appendArray(const Descriptor* descriptor, std::vector<float> values,
+    void appendArray(const Descriptor* descriptor, std::span<const float> values,
                      std::string_view prefix) const {
         out += descriptor->text;
         out += ", ";
-        internValueArray(out, std::move(values), groups, prefix);
+        internValueArray(out, values, groups, prefix);
     }
 };
 
@@ -65,16 +63,16 @@ struct DefaultRecordWriter {
 
 }  // namespace
 
-DefaultRecord readDefault(const MetaParameter& parameter) {
+DefaultRecord readDefault(const MetaParameter& parameter, DefaultValues& values) {
     if (parameter.defaultText || isListCode(parameter.code)) {
-        return readTypedDefault(parameter.code, parameter.defaultText);
+        return readTypedDefault(parameter.code, parameter.defaultText, values);
     }
     if (parameter.code == type_code::integer) return std::int32_t{0};
     return std::string_view();
 }
 
-void appendDefault(std::string& out, DefaultRecord record, ValueArrays& groups) {
-    std::visit(DefaultTextWriter{out, groups}, std::move(record));
+void appendDefault(std::string& out, const DefaultRecord& record, ValueArrays& groups) {
+    std::visit(DefaultTextWriter{out, groups}, record);
 }
 
 void appendDefaultRecord(std::string& records, const DefaultRecord& record) {

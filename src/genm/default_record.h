@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -22,7 +23,7 @@ struct DescriptorOnly {
 
 struct IntegerArray {
     const Descriptor* descriptor;
-    std::vector<std::int32_t> values;
+    std::span<const std::int32_t> values;
 };
 
 /// The floats of all elements, one after the other. A single value that could not be read has
@@ -30,11 +31,16 @@ struct IntegerArray {
 struct FloatArray {
     const Descriptor* descriptor;
     std::string_view prefix;  ///< the group of its value array
-    std::vector<float> values;
+    std::span<const float> values;
 };
 
-/// The index of the alternative is the kind of the binary record. A text is borrowed from the
-/// model.
+/// Holds the values of the default that was read last.
+struct DefaultValues {
+    std::vector<std::int32_t> integers;
+    std::vector<float> floats;
+};
+
+/// The index of the alternative is the kind of the binary record. Texts are the document's.
 using DefaultRecord =
     std::variant<std::int32_t, float, std::string_view, DescriptorOnly, IntegerArray, FloatArray>;
 
@@ -42,15 +48,16 @@ using DefaultRecord =
 /// Integers, bools, floats and float textures throw the errors of `parseInteger` and `parseFloat`.
 /// A code without a rule prints "unsupported type" and a line feed on standard output and ends the
 /// process with status -1.
-DefaultRecord readTypedDefault(std::int32_t code, std::optional<std::string_view> text);
+DefaultRecord readTypedDefault(std::int32_t code, std::optional<std::string_view> text,
+                               DefaultValues& values);
 
 /// Reads the parameter's default. One that is no list and has no default text has the empty text,
 /// or 0 when it is an integer, and its type is not looked at any further.
-DefaultRecord readDefault(const MetaParameter& parameter);
+DefaultRecord readDefault(const MetaParameter& parameter, DefaultValues& values);
 
 /// Appends the default as generated source: a literal, or a descriptor and, where there are values,
 /// the name of the array that holds them.
-void appendDefault(std::string& out, DefaultRecord record, ValueArrays& groups);
+void appendDefault(std::string& out, const DefaultRecord& record, ValueArrays& groups);
 
 /// Appends the binary record. It carries the values themselves, not the arrays' names.
 void appendDefaultRecord(std::string& records, const DefaultRecord& record);

@@ -18,7 +18,7 @@ using DefaultText = std::optional<std::string_view>;
 /// alone; a list text without elements is a list all the same unless the rule says otherwise.
 struct DefaultRule {
     std::int32_t code;
-    DefaultRecord (*read)(const DefaultRule& rule, DefaultText text);
+    DefaultRecord (*read)(const DefaultRule& rule, DefaultText text, DefaultValues& values);
     const Descriptor* descriptor = nullptr;  ///< of the values that were read
     std::string_view prefix = {};            ///< of the arrays that hold them
     const Descriptor* fallback = nullptr;
@@ -29,80 +29,79 @@ constexpr bool emptyFallsBack = true;
 
 constexpr std::string_view noText;
 
-DefaultRecord readInteger(const DefaultRule& /*rule*/, DefaultText text) {
+DefaultRecord readInteger(const DefaultRule& /*rule*/, DefaultText text,
+                          DefaultValues& /*values*/) {
     return std::int32_t{parseInteger(*text)};
 }
 
-DefaultRecord readFloat(const DefaultRule& /*rule*/, DefaultText text) { return parseFloat(*text); }
+DefaultRecord readFloat(const DefaultRule& /*rule*/, DefaultText text, DefaultValues& /*values*/) {
+    return parseFloat(*text);
+}
 
-DefaultRecord readText(const DefaultRule& /*rule*/, DefaultText text) { return *text; }
+DefaultRecord readText(const DefaultRule& /*rule*/, DefaultText text, DefaultValues& /*values*/) {
+    return *text;
+}
 
-DefaultRecord readNothing(const DefaultRule& /*rule*/, DefaultText /*text*/) { return noText; }
+DefaultRecord readNothing(const DefaultRule& /*rule*/, DefaultText /*text*/,
+                          DefaultValues& /*values*/) {
+    return noText;
+}
 
-DefaultRecord readDescriptor(const DefaultRule& rule, DefaultText /*text*/) {
+DefaultRecord readDescriptor(const DefaultRule& rule, DefaultText /*text*/,
+                             DefaultValues& /*values*/) {
     return DescriptorOnly{rule.descriptor};
 }
 
 template <std::size_t count, bool (*parse)(std::string_view, std::span<float, count>)>
-DefaultRecord readComponents(const DefaultRule& rule, DefaultText text) {
-    std::array<float, count> components = {};
-    FloatArray result = {rule.descriptor, rule.prefix, {}};
-    if (parse(*text, components)) result.values.assign(components.begin(), components.end());
-    return result;
+DefaultRecord readComponents(const DefaultRule& rule, DefaultText text, DefaultValues& values) {
+    values.floats.resize(count);
+    const std::span<float, count> components(values.floats.data(), count);
+    if (!parse(*text, components)) values.floats.clear();
+    return FloatArray{rule.descriptor, rule.prefix, values.floats};
 }
 
 /// A texture stands for a colour, with or without alpha, where its default reads as one.
-DefaultRecord readTexture(const DefaultRule& /*rule*/, DefaultText text) {
-    std::array<float, 4> components = {};
+DefaultRecord readTexture(const DefaultRule& /*rule*/, DefaultText text, DefaultValues& values) {
+    values.floats.resize(4);
+    const auto components = std::span(values.floats).first<4>();
     if (parseAColor(*text, components)) {
-        return FloatArray{
-            &descriptor::acolor, array_prefix::acolor, {components.begin(), components.end()}};
+        return FloatArray{&descriptor::acolor, array_prefix::acolor, components};
     }
-    if (parseVector3(*text, std::span(components).first<3>())) {
-        return FloatArray{&descriptor::vector3,
-                          array_prefix::color,
-                          {components.begin(), components.begin() + 3}};
+    if (parseVector3(*text, components.first<3>())) {
+        return FloatArray{&descriptor::vector3, array_prefix::color, components.first<3>()};
     }
     return noText;
 }
 
-DefaultRecord listOf(const DefaultRule& rule, std::vector<std::int32_t> values) {
-    return IntegerArray{rule.descriptor, std::move(values)};
+/// A list without a default, or whose default is refused, falls back.
+bool fallsBack(const DefaultRule& rule, bool isRead, bool isEmpty) {
+    return !isRead || (isEmpty && rule.fallsBackWhenEmpty);
 }
 
-DefaultRecord listOf(const DefaultRule& rule, std::vector<float> values) {
-    return FloatArray{rule.descriptor, rule.prefix, std::move(values)};
+DefaultRecord readIntegers(const DefaultRule& rule, DefaultText text, DefaultValues& values) {
+    values.integers.clear();
+    const bool isRead = text && parseIntList(*text, values.integers);
+    if (fallsBack(rule, isRead, values.integers.empty())) return DescriptorOnly{rule.fallback};
+    return IntegerArray{rule.descriptor, values.integers};
 }
 
-template <std::size_t count>
-DefaultRecord listOf(const DefaultRule& rule, const std::vector<std::array<float, count>>& list) {
-    FloatArray result = {rule.descriptor, rule.prefix, {}};
-    result.values.reserve(list.size() * count);
-    for (const std::array<float, count>& element : list) {
-        result.values.insert(result.values.end(), element.begin(), element.end());
-    }
-    return result;
-}
-
-template <typename Element, bool (*parse)(std::string_view, std::vector<Element>&)>
-DefaultRecord readList(const DefaultRule& rule, DefaultText text) {
-    std::vector<Element> elements;
-    const bool isRead = text && parse(*text, elements);
-    if (!isRead || (rule.fallsBackWhenEmpty && elements.empty()))
-        return DescriptorOnly{rule.fallback};
-    return listOf(rule, std::move(elements));
+template <bool (*parse)(std::string_view, std::vector<float>&)>
+DefaultRecord readFloatLists(const DefaultRule& rule, DefaultText text, DefaultValues& values) {
+    values.floats.clear();
+    const bool isRead = text && parse(*text, values.floats);
+    if (fallsBack(rule, isRead, values.floats.empty())) return DescriptorOnly{rule.fallback};
+    return FloatArray{rule.descriptor, rule.prefix, values.floats};
 }
 
 constexpr auto readVector3 = readComponents<3, parseVector3>;
 constexpr auto readAColor = readComponents<4, parseAColor>;
 constexpr auto readMatrix = readComponents<9, parseMatrix>;
 constexpr auto readTransform = readComponents<12, parseTransform>;
-constexpr auto readIntegers = readList<std::int32_t, parseIntList>;
-constexpr auto readFloats = readList<float, parseFloatList>;
-constexpr auto readVector3s = readList<Vector3, parseVector3List>;
-constexpr auto readAColors = readList<AColor, parseAColorList>;
-constexpr auto readMatrices = readList<Matrix, parseMatrixList>;
-constexpr auto readTransforms = readList<Transform, parseTransformList>;
+constexpr auto readFloats = readFloatLists<parseFloatList>;
+constexpr auto readVector3s = readFloatLists<parseVector3List>;
+constexpr auto readAColors = readFloatLists<parseAColorList>;
+constexpr auto readMatrices = readFloatLists<parseMatrixList>;
+constexpr auto readTransforms = readFloatLists<parseTransformList>;
 
 constexpr std::int32_t listCode(std::int32_t elementCode) {
     return elementCode + type_code::listOffset;
@@ -165,9 +164,9 @@ constexpr std::array<DefaultRule, 34> rules = {{
 
 }  // namespace
 
-DefaultRecord readTypedDefault(std::int32_t code, DefaultText text) {
+DefaultRecord readTypedDefault(std::int32_t code, DefaultText text, DefaultValues& values) {
     const auto rule = std::ranges::find(rules, code, &DefaultRule::code);
-    if (rule != rules.end()) return rule->read(*rule, text);
+    if (rule != rules.end()) return rule->read(*rule, text, values);
     endRun(brokenMetadataStatus, "unsupported type\n");
 }
 

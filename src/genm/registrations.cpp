@@ -1,7 +1,5 @@
 #include "genm/registrations.h"
 
-#include <utility>
-
 #include "genm/default_record.h"
 #include "model/binary_table.h"
 #include "support/number_text.h"
@@ -30,7 +28,7 @@ public:
 
 private:
     void append(const MetaParameter& parameter) {
-        DefaultRecord defaultValue = readDefault(parameter);
+        const DefaultRecord defaultValue = readDefault(parameter, values);
         appendText(table, parameter.name);
         appendText(table, parameter.typeName);
         appendU32(table, parameter.flags);
@@ -40,13 +38,14 @@ private:
         source.append("\", \"").append(parameter.typeName).append("\", ");
         appendInteger(source, parameter.flags);
         source += ", ";
-        appendDefault(source, std::move(defaultValue), groups);
+        appendDefault(source, defaultValue, groups);
         source += ')';
     }
 
     std::string& source;
     std::string& table;
     ValueArrays& groups;
+    DefaultValues values;  ///< of the default at hand
 };
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
-#include <utility>
 
 #include "support/number_text.h"
 #include "support/numeric.h"
@@ -49,18 +48,25 @@ void appendValues(std::string& out, std::string_view prefix, std::span<const flo
 
 }  // namespace
 
-std::size_t ValueArrayGroup::intern(std::vector<float> values) {
-    const std::size_t number = arrays.size();
+std::span<const float> ValueArrayGroup::array(std::size_t number) const {
+    const std::size_t begin = number == 0 ? 0 : ends[number - 1];
+    return std::span(allValues).subspan(begin, ends[number] - begin);
+}
+
+std::size_t ValueArrayGroup::intern(std::span<const float> values) {
+    const std::size_t number = ends.size();
     // An array with a NaN is kept out of the index: it would only be compared in vain.
     if (!hasNan(values)) {
         const std::size_t hash = hashOf(values);
         const auto [first, last] = numbersByHash.equal_range(hash);
-        const auto equal = std::find_if(
-            first, last, [&](const auto& entry) { return arrays[entry.second] == values; });
+        const auto equal = std::find_if(first, last, [&](const auto& entry) {
+            return std::ranges::equal(array(entry.second), values);
+        });
         if (equal != last) return equal->second;
         numbersByHash.emplace(hash, number);
     }
-    arrays.push_back(std::move(values));
+    allValues.insert(allValues.end(), values.begin(), values.end());
+    ends.push_back(allValues.size());
     return number;
 }
 
@@ -70,7 +76,7 @@ void ValueArrayGroup::appendDefinitions(std::string& out) const {
 }
 
 void ValueArrayGroup::appendDefinitionsFrom(std::string& out, std::size_t number) const {
-    if (number >= arrays.size()) return;
+    if (number >= ends.size()) return;
     appendDefinition(out, number);
     for (std::size_t digit = 0; digit < 10; ++digit) {
         appendDefinitionsFrom(out, 10 * number + digit);
@@ -83,15 +89,15 @@ void ValueArrayGroup::appendDefinition(std::string& out, std::size_t number) con
     out += prefix;
     appendInteger(out, static_cast<std::int64_t>(number));
     out += "[] =";
-    appendValues(out, prefix, arrays[number]);
+    appendValues(out, prefix, array(number));
 }
 
-void internValueArray(std::string& out, std::vector<float> values, ValueArrays& groups,
+void internValueArray(std::string& out, std::span<const float> values, ValueArrays& groups,
                       std::string_view prefix) {
     auto group = std::ranges::find(groups, prefix, &ValueArrayGroup::namePrefix);
     if (group == groups.end()) group = groups.emplace(group, prefix);
     out += prefix;
-    appendInteger(out, static_cast<std::int64_t>(group->intern(std::move(values))));
+    appendInteger(out, static_cast<std::int64_t>(group->intern(values)));
 }
 
 void appendDefinitions(std::string& out, const ValueArrays& groups) {

@@ -31,7 +31,7 @@ public:
 
     /// The number of the array that equals the values, which is new when none does. Elements are
     /// compared as floats: 0 equals -0, and an array with a NaN equals none.
-    std::size_t intern(std::vector<float> values);
+    std::size_t intern(std::span<const float> values);
 
     /// Appends a line for each array, of which there is one at least, in ascending order of the
     /// names: "vec10" before "vec2".
@@ -43,7 +43,11 @@ private:
     void appendDefinition(std::string& out, std::size_t number) const;
 
     std::string_view prefix;
-    std::vector<std::vector<float>> arrays;  ///< by number, which is the order of first use
+    [[nodiscard]] std::span<const float> array(std::size_t number) const;
+
+    // By number, which is the order of first use: where each array ends, all of them in one.
+    std::vector<std::size_t> ends;
+    std::vector<float> allValues;
     /// The numbers of the arrays by a hash of their values, but for those with a NaN.
     std::unordered_multimap<std::size_t, std::size_t> numbersByHash;
 };
@@ -53,7 +57,7 @@ using ValueArrays = std::vector<ValueArrayGroup>;
 
 /// Finds or makes the array of the values in the prefix's group and appends its name: the prefix
 /// and the array's number.
-void internValueArray(std::string& out, std::vector<float> values, ValueArrays& groups,
+void internValueArray(std::string& out, std::span<const float> values, ValueArrays& groups,
                       std::string_view prefix);
 
 /// Appends the definitions of all arrays, each a line of generated source.

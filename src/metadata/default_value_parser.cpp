@@ -1,6 +1,7 @@
 #include "metadata/default_value_parser.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "metadata/list_tokenizer.h"
@@ -38,11 +39,11 @@ bool forEachElement(std::string_view text, const Take& take) {
 
 template <std::size_t Count>
 bool parseCompoundList(std::string_view text, const std::array<int, Count>& fields,
-                       std::vector<std::array<float, Count>>& out) {
+                       std::vector<float>& out) {
     return forEachElement(text, [&](std::string_view element) {
         std::array<float, Count> values = {};
         if (!readFixedFields(element, fields, values)) return false;
-        out.push_back(values);
+        out.insert(out.end(), values.begin(), values.end());
         return true;
     });
 }
@@ -98,19 +99,19 @@ bool parseFloatList(std::string_view text, std::vector<float>& out) {
     });
 }
 
-bool parseVector3List(std::string_view text, std::vector<Vector3>& out) {
+bool parseVector3List(std::string_view text, std::vector<float>& out) {
     return parseCompoundList(text, vector3Fields, out);
 }
 
-bool parseAColorList(std::string_view text, std::vector<AColor>& out) {
+bool parseAColorList(std::string_view text, std::vector<float>& out) {
     return parseCompoundList(text, acolorFields, out);
 }
 
-bool parseMatrixList(std::string_view text, std::vector<Matrix>& out) {
+bool parseMatrixList(std::string_view text, std::vector<float>& out) {
     return parseCompoundList(text, matrixFields, out);
 }
 
-bool parseTransformList(std::string_view text, std::vector<Transform>& out) {
+bool parseTransformList(std::string_view text, std::vector<float>& out) {
     return parseCompoundList(text, transformFields, out);
 }
 

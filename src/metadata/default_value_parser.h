@@ -3,18 +3,12 @@
 // and floats are read by `parseInteger` and `parseFloat`.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
 #include <vector>
 
 namespace metagen {
-
-using Vector3 = std::array<float, 3>;     ///< x, y, z of a vector, or r, g, b of a colour
-using AColor = std::array<float, 4>;      ///< r, g, b, a
-using Matrix = std::array<float, 9>;      ///< three rows of three
-using Transform = std::array<float, 12>;  ///< the matrix, then the offset
 
 /// Whether there is a reader for single values of the type with that code. There is none for
 /// doubles, which never arise from documents, nor for texts and the textures of numbers but floats.
@@ -26,8 +20,9 @@ bool hasDefaultValueReader(std::int32_t code);
 bool readFixedFields(std::string_view text, std::span<const int> wantedFields,
                      std::span<float> out);
 
-/// Each reads a value of its kind by its field numbers, and is false when the text has too few
-/// fields; out then holds whatever was read.
+/// Each reads a value of its kind by its field numbers (a vector or a colour, a colour with alpha,
+/// a matrix by rows, a matrix and an offset), and is false when the text has too few fields; out
+/// then holds whatever was read.
 bool parseVector3(std::string_view text, std::span<float, 3> out);
 bool parseAColor(std::string_view text, std::span<float, 4> out);
 bool parseMatrix(std::string_view text, std::span<float, 9> out);
@@ -39,11 +34,11 @@ bool parseTransform(std::string_view text, std::span<float, 12> out);
 bool parseIntList(std::string_view text, std::vector<std::int32_t>& out);
 bool parseFloatList(std::string_view text, std::vector<float>& out);
 
-/// The same for elements with parentheses. False also at an element that its reader refuses; those
-/// before it stay appended.
-bool parseVector3List(std::string_view text, std::vector<Vector3>& out);
-bool parseAColorList(std::string_view text, std::vector<AColor>& out);
-bool parseMatrixList(std::string_view text, std::vector<Matrix>& out);
-bool parseTransformList(std::string_view text, std::vector<Transform>& out);
+/// The same for elements with parentheses, the floats of each behind those before it. False also at
+/// an element that its reader refuses; those before it stay appended.
+bool parseVector3List(std::string_view text, std::vector<float>& out);
+bool parseAColorList(std::string_view text, std::vector<float>& out);
+bool parseMatrixList(std::string_view text, std::vector<float>& out);
+bool parseTransformList(std::string_view text, std::vector<float>& out);
 
 }  // namespace metagen

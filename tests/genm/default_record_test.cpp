@@ -9,9 +9,8 @@
 #include <stdexcept>
 
 #include "genm/table_bytes.h"
-#include "sdk/parameter_type.h"
+#include "model/reading.h"
 #include "support/exit_status.h"
-#include "support/number_text.h"
 
 namespace metagen {
 namespace {
@@ -47,17 +46,17 @@ Written written(const DefaultRecord& record) {
     ValueArrays groups;
     appendDefault(result.source, record, groups);
     appendDefinitions(result.arrays, groups);
-    BinaryBuffer records;
-    writeDefault(records, record);
-    result.record = records.str();
+    appendDefaultRecord(result.record, record);
     return result;
 }
 
-Written typed(std::int32_t code, const std::string& text) {
-    return written(readTypedDefault(code, &text));
+DefaultValues buffer;  ///< of the default at hand
+
+Written typed(std::int32_t code, std::string_view text) {
+    return written(readTypedDefault(code, text, buffer));
 }
 
-Written absent(std::int32_t code) { return written(readTypedDefault(code, nullptr)); }
+Written absent(std::int32_t code) { return written(readTypedDefault(code, std::nullopt, buffer)); }
 
 std::string floats(std::initializer_list<float> values) {
     std::string bytes = u32(static_cast<std::uint32_t>(values.size()));
@@ -86,12 +85,7 @@ std::string floatArray(std::uint32_t descriptor, std::initializer_list<float> va
 /// The text of the standard exception that a default raises.
 template <typename Exception>
 std::string errorOf(std::int32_t code, const std::string& text) {
-    try {
-        readTypedDefault(code, &text);
-    } catch (const Exception& exception) {
-        return exception.what();
-    }
-    return "no error";
+    return messageOf<Exception>([&] { readTypedDefault(code, text, buffer); });
 }
 
 TEST(DefaultRecordBytes, AreThoseOfEachKind) {
@@ -398,66 +392,49 @@ TEST(TypedDefault, OtherTextureListsFallBackToTexts) {
 }
 
 TEST(TypedDefaultDeathTest, OtherTypesEndTheProcess) {
-    const std::string text = "1";
     for (const std::int32_t code : {2, 102, 112, 18, 99, -1, 118, 1000, 10001}) {
-        EXPECT_EXIT(readTypedDefault(code, &text), isBrokenMetadata, "^$") << code;
+        EXPECT_EXIT(readTypedDefault(code, "1", buffer), isBrokenMetadata, "^$") << code;
     }
 }
 
-ParamEntry parameter(const std::string& typeName, bool isList) {
-    ParamEntry entry;
-    entry.typeName = &typeName;
-    entry.isList = isList ? 1 : 0;
-    return entry;
+MetaParameter parameter(std::int32_t code, std::optional<std::string_view> defaultText = {}) {
+    MetaParameter parameter;
+    parameter.code = code;
+    parameter.defaultText = defaultText;
+    return parameter;
 }
 
-ParamEntry parameter(const std::string& typeName, bool isList, const std::string& defaultText) {
-    ParamEntry entry = parameter(typeName, isList);
-    entry.defaultValue = &defaultText;
-    return entry;
+Written parameterDefault(std::int32_t code, std::optional<std::string_view> text = {}) {
+    return written(readDefault(parameter(code, text), buffer));
 }
-
-const std::string integerName = "integer";
-const std::string boolName = "bool";
-const std::string floatName = "float";
-const std::string doubleName = "double";
-const std::string colorName = "color";
-const std::string listName = "list";
-const std::string stringName = "string";
 
 TEST(ParameterDefault, WithoutATextOnlyAnIntegerIsZero) {
-    EXPECT_EQ(written(readDefault(parameter(integerName, false))), (Written{"0", "", integer(0)}));
-    for (const std::string* name : {&boolName, &floatName, &doubleName, &colorName, &stringName}) {
-        EXPECT_EQ(written(readDefault(parameter(*name, false))),
-                  (Written{emptyLiteral, "", string("")}))
-            << *name;
+    EXPECT_EQ(parameterDefault(0), (Written{"0", "", integer(0)}));
+    for (const std::int32_t code : {3, 1, 2, 5, 9, 13}) {
+        EXPECT_EQ(parameterDefault(code), (Written{emptyLiteral, "", string("")})) << code;
     }
 }
 
 TEST(ParameterDefault, AListWithoutATextHasItsDescriptor) {
-    EXPECT_EQ(written(readDefault(parameter(integerName, true))),
-              (Written{li, "", descriptorOnly(522)}));
-    EXPECT_EQ(written(readDefault(parameter(listName, true))),
-              (Written{ls, "", descriptorOnly(524)}));
+    EXPECT_EQ(parameterDefault(100), (Written{li, "", descriptorOnly(522)}));
+    EXPECT_EQ(parameterDefault(12), (Written{ls, "", descriptorOnly(524)}));
 }
 
 TEST(ParameterDefault, AnEmptyTextIsOne) {
-    EXPECT_EQ(written(readDefault(parameter(stringName, false, ""))),
-              (Written{emptyLiteral, "", string("")}));
-    EXPECT_EQ(written(readDefault(parameter(colorName, false, ""))),
-              (Written{emptyLiteral, "", floatArray(273, {})}));
-    EXPECT_THROW(readDefault(parameter(integerName, false, "")), std::invalid_argument);
+    EXPECT_EQ(parameterDefault(9, ""), (Written{emptyLiteral, "", string("")}));
+    EXPECT_EQ(parameterDefault(5, ""), (Written{emptyLiteral, "", floatArray(273, {})}));
+    EXPECT_THROW(readDefault(parameter(0, ""), buffer), std::invalid_argument);
 }
 
-TEST(ParameterDefault, TheElementTypeDecidesForAList) {
-    EXPECT_EQ(written(readDefault(parameter(floatName, true, "List(1)"))),
+TEST(ParameterDefault, ATextIsReadByTheType) {
+    EXPECT_EQ(parameterDefault(101, "List(1)"),
               (Written{lf + ", flt0", "static constexpr float flt0[] = { 1.f};\n",
                        floatArray(521, {1})}));
 }
 
 TEST(ParameterDefaultDeathTest, ADoubleWithATextAndAListOfThemEndTheProcess) {
-    EXPECT_DEATH(readDefault(parameter(doubleName, false, "1")), "^$");
-    EXPECT_DEATH(readDefault(parameter(doubleName, true)), "^$");
+    EXPECT_EXIT(readDefault(parameter(2, "1"), buffer), isBrokenMetadata, "^$");
+    EXPECT_EXIT(readDefault(parameter(102), buffer), isBrokenMetadata, "^$");
 }
 
 }  // namespace

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <limits>
+#include <string>
 
 namespace metagen {
 namespace {
@@ -11,7 +14,7 @@ constexpr float nan = std::numeric_limits<float>::quiet_NaN();
 
 std::string intern(ValueArrays& groups, std::string_view prefix, std::vector<float> values) {
     std::string name;
-    internValueArray(name, std::move(values), groups, prefix);
+    internValueArray(name, values, groups, prefix);
     return name;
 }
 
@@ -29,7 +32,7 @@ TEST(ValueArrays, TheFirstArrayOfAGroupIsNumberZero) {
 TEST(ValueArrays, TheNameIsAppendedToTheText) {
     ValueArrays groups;
     std::string out = "a, ";
-    internValueArray(out, {1, 2, 3}, groups, "vec");
+    internValueArray(out, std::array{1.0F, 2.0F, 3.0F}, groups, "vec");
     EXPECT_EQ(out, "a, vec0");
 }
 
@@ -116,6 +119,23 @@ TEST(ValueArrayDefinitions, ArraysStandInTheOrderOfTheirNames) {
               "static constexpr float flt7[] = { 7.f};\n"
               "static constexpr float flt8[] = { 8.f};\n"
               "static constexpr float flt9[] = { 9.f};\n");
+}
+
+TEST(ValueArrayDefinitions, ArraysStandInTheOrderOfTheirNamesWhateverTheirLength) {
+    ValueArrays groups;
+    std::vector<std::string> numbers;
+    for (int number = 0; number < 1011; ++number) {
+        intern(groups, "flt", {static_cast<float>(number)});
+        numbers.push_back(std::to_string(number));
+    }
+    std::ranges::sort(numbers);
+    std::string expected;
+    for (const std::string& number : numbers) {
+        // Up to 999999, the literal of a whole number begins with its digits.
+        expected.append("static constexpr float flt").append(number);
+        expected.append("[] = { ").append(number).append(".f};\n");
+    }
+    EXPECT_EQ(definitions(groups), expected);
 }
 
 TEST(ValueArrayDefinitions, IntegersAreWholeNumbersOfTheirFloats) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -26,16 +27,11 @@ Read<Element> read(bool (*reader)(std::string_view, std::vector<Element>&), std:
 
 using Integers = Read<std::int32_t>;
 using Floats = Read<float>;
-using Vectors = Read<Vector3>;
 
-TEST(HasDefaultValueReader, IsTrueForTheTypesThatAreRead) {
-    for (const int code : {0, 1, 3, 4, 5, 6, 7, 8, 10, 11, 13}) {
-        EXPECT_TRUE(hasDefaultValueReader(code)) << code;
-    }
-    for (const int code : {-1, 2, 9, 12, 14, 15, 16, 17, 18, 100, 10000}) {
-        EXPECT_FALSE(hasDefaultValueReader(code)) << code;
-    }
-}
+using Vector3 = std::array<float, 3>;
+using AColor = std::array<float, 4>;
+using Matrix = std::array<float, 9>;
+using Transform = std::array<float, 12>;
 
 TEST(ReadFixedFields, NumbersTheFieldsFromTheTypeWord) {
     std::array<float, 2> out = {};
@@ -195,53 +191,52 @@ TEST(ParseFloatList, RefusesWhatIsNoList) {
 
 TEST(ParseVector3List, ReadsEveryElement) {
     EXPECT_EQ(read(parseVector3List, "ColorList(Color(1,1,1), Color(0,0.5,0))"),
-              (Vectors{true, {{1.0F, 1.0F, 1.0F}, {0.0F, 0.5F, 0.0F}}}));
+              (Floats{true, {1.0F, 1.0F, 1.0F, 0.0F, 0.5F, 0.0F}}));
 }
 
 TEST(ParseVector3List, AppendsToTheSequence) {
-    std::vector<Vector3> colors = {{7.0F, 8.0F, 9.0F}};
+    std::vector<float> colors = {7.0F, 8.0F, 9.0F};
     EXPECT_TRUE(parseVector3List("List(Color(1,2,3))", colors));
-    EXPECT_EQ(colors, (std::vector<Vector3>{{7.0F, 8.0F, 9.0F}, {1.0F, 2.0F, 3.0F}}));
+    EXPECT_EQ(colors, (std::vector{7.0F, 8.0F, 9.0F, 1.0F, 2.0F, 3.0F}));
 }
 
 TEST(ParseVector3List, IsTrueForAnEmptyPlainListOnly) {
-    EXPECT_EQ(read(parseVector3List, "List()"), (Vectors{true, {}}));
-    EXPECT_EQ(read(parseVector3List, "ColorList()"), (Vectors{false, {}}));
+    EXPECT_EQ(read(parseVector3List, "List()"), (Floats{true, {}}));
+    EXPECT_EQ(read(parseVector3List, "ColorList()"), (Floats{false, {}}));
 }
 
 TEST(ParseVector3List, KeepsTheElementsBeforeTheOneThatItRefuses) {
     EXPECT_EQ(read(parseVector3List, "List(Color(1,2,3), 5, Color(4,5,6))"),
-              (Vectors{false, {{1.0F, 2.0F, 3.0F}}}));
+              (Floats{false, {1.0F, 2.0F, 3.0F}}));
 }
 
 TEST(ParseVector3List, RefusesWhatIsNoList) {
-    EXPECT_EQ(read(parseVector3List, "VectorList(Vector(1,2,3))"), (Vectors{false, {}}));
+    EXPECT_EQ(read(parseVector3List, "VectorList(Vector(1,2,3))"), (Floats{false, {}}));
 }
 
 TEST(ParseAColorList, ReadsEveryElement) {
     EXPECT_EQ(read(parseAColorList, "List(AColor(1,2,3,4),AColor(5,6,7,8))"),
-              (Read<AColor>{true, {{1, 2, 3, 4}, {5, 6, 7, 8}}}));
+              (Floats{true, {1, 2, 3, 4, 5, 6, 7, 8}}));
 }
 
 TEST(ParseMatrixList, RefusesMatricesBecauseTheyAreCutAtTheirFirstRow) {
     EXPECT_EQ(read(parseMatrixList, "List(Matrix(Vector(1,0,0),Vector(0,1,0),Vector(0,0,1)))"),
-              (Read<Matrix>{false, {}}));
+              (Floats{false, {}}));
 }
 
 TEST(ParseMatrixList, ReadsElementsWithoutInnerClosingParentheses) {
     EXPECT_EQ(read(parseMatrixList, "List(Matrix(Vector(1,2,3,Vector(4,5,6,Vector(7,8,9)))"),
-              (Read<Matrix>{true, {{1, 2, 3, 4, 5, 6, 7, 8, 9}}}));
+              (Floats{true, {1, 2, 3, 4, 5, 6, 7, 8, 9}}));
 }
 
 TEST(ParseTransformList, ReadsElementsWithoutInnerClosingParentheses) {
     EXPECT_EQ(read(parseTransformList,
                    "List(Transform(Matrix(Vector(1,2,3,Vector(4,5,6,Vector(7,8,9,Vector(0,1,2)))"),
-              (Read<Transform>{true, {{1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1, 2}}}));
+              (Floats{true, {1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1, 2}}));
 }
 
 TEST(ParseTransformList, RefusesWhatIsNoList) {
-    EXPECT_EQ(read(parseTransformList, "TransformList(Transform(1))"),
-              (Read<Transform>{false, {}}));
+    EXPECT_EQ(read(parseTransformList, "TransformList(Transform(1))"), (Floats{false, {}}));
 }
 
 }  // namespace
