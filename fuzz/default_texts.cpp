@@ -1,5 +1,5 @@
 // The readers of default value texts, every one on the same text.
-#include <limits>
+#include <array>
 #include <string>
 
 #include "fuzz_target.h"
@@ -25,20 +25,20 @@ void walkElements(std::string_view text) {
     }
 }
 
-template <typename Element>
-void readList(bool (*reader)(std::string_view, std::vector<Element>&), std::string_view text,
+template <typename Number>
+void readList(bool (*reader)(std::string_view, std::vector<Number>&), std::string_view text,
               bool failsOnlyOutsideLists) {
-    std::vector<Element> elements;
-    const bool read = reader(text, elements);
-    fuzz::require(isListText(text) || (!read && elements.empty()), "only lists have elements");
+    std::vector<Number> numbers;
+    const bool read = reader(text, numbers);
+    fuzz::require(isListText(text) || (!read && numbers.empty()), "only lists have elements");
     if (failsOnlyOutsideLists) fuzz::require(read == isListText(text), "numbers never fail");
 }
 
 void readSingles(std::string_view text) {
-    Vector3 vector = {};
-    AColor color = {};
-    Matrix matrix = {};
-    Transform transform = {};
+    std::array<float, 3> vector = {};
+    std::array<float, 4> color = {};
+    std::array<float, 9> matrix = {};
+    std::array<float, 12> transform = {};
     const bool three = parseVector3(text, vector);
     const bool four = parseAColor(text, color);
     fuzz::require(three || !four, "whoever has four fields has three");

@@ -45,17 +45,11 @@ void appendFloats(std::vector<float>& floats, const Item& item, std::size_t coun
 std::vector<float> readFloats(const Item& item, std::int32_t tag) {
     std::vector<float> floats;
     const std::size_t width = floatsPerValue(tag);
-    if (tag < kind::integerList) {
+    if (!isListCode(tag)) {
         appendFloats(floats, item, width);
         return floats;
     }
-    item.forEachElement([&](const Item& element) {
-        if (tag == kind::floatList) {
-            floats.push_back(element.single());
-        } else {
-            appendFloats(floats, element, width);
-        }
-    });
+    item.forEachElement([&](const Item& element) { appendFloats(floats, element, width); });
     return floats;
 }
 
@@ -69,49 +63,48 @@ std::vector<Element> readElements(const Item& item, Element (*read)(const Item&)
 
 std::int32_t readInteger(const Item& item) { return item.integer32(); }
 
-void readPayload(DefaultValue& value, const Item& item) {
-    switch (value.kind) {
-        case kind::integer: value.payload = item.integer32(); break;
-        case kind::single: value.payload = item.single(); break;
-        case kind::real: value.payload = item.number(); break;
-        case kind::boolean: value.payload = readByte(item); break;
-        case kind::vector:
-        case kind::color:
-        case kind::acolor:
-        case kind::matrix:
-        case kind::transform:
-        case kind::floatList:
-        case kind::vectorList:
-        case kind::colorList:
-        case kind::transformList: value.payload = readFloats(item, value.kind); break;
-        case kind::string: value.payload = item.text(); break;
-        case kind::plugin: value.payload = readReference(item); break;
-        case kind::list: value.payload = readElements(item, readTaggedDefault); break;
-        case kind::integerList: value.payload = readElements(item, readInteger); break;
-        case kind::stringList: value.payload = readElements(item, readText); break;
-        case kind::pluginList: value.payload = readElements(item, readReference); break;
-        default: item.fail("this kind has no value");
+float readNumber(const Item& item) { return item.single(); }
+
+void readSingle(DefaultValue& value, ValueShape shape, const Item& item) {
+    switch (shape) {
+        case ValueShape::integer: value.payload = item.integer32(); return;
+        case ValueShape::single: value.payload = item.single(); return;
+        case ValueShape::real: value.payload = item.number(); return;
+        case ValueShape::boolean: value.payload = readByte(item); return;
+        case ValueShape::floats: value.payload = readFloats(item, value.kind); return;
+        case ValueShape::text: value.payload = item.text(); return;
+        case ValueShape::plugin: value.payload = readReference(item); return;
+        case ValueShape::values: value.payload = readElements(item, readTaggedDefault); return;
+        case ValueShape::none: break;
     }
+    item.fail("this kind has no value");
 }
 
-/// Kinds whose value is behind a pointer, which may be null.
-bool isBehindPointer(std::int32_t tag) {
-    switch (tag) {
-        case kind::string:
-        case kind::list:
-        case kind::integerList:
-        case kind::floatList:
-        case kind::vectorList:
-        case kind::colorList:
-        case kind::transformList:
-        case kind::stringList:
-        case kind::pluginList: return true;
-        default: return false;
+void readList(DefaultValue& value, ValueShape elementShape, const Item& item) {
+    switch (elementShape) {
+        case ValueShape::integer: value.payload = readElements(item, readInteger); return;
+        case ValueShape::single: value.payload = readElements(item, readNumber); return;
+        case ValueShape::floats: value.payload = readFloats(item, value.kind); return;
+        case ValueShape::text: value.payload = readElements(item, readText); return;
+        case ValueShape::plugin: value.payload = readElements(item, readReference); return;
+        case ValueShape::none:
+        case ValueShape::real:
+        case ValueShape::boolean:
+        case ValueShape::values: break;  // these have no list of their own
     }
+    item.fail("this kind has no value");
 }
 
-bool hasPayload(std::int32_t tag) {
-    return (tag >= kind::integer && tag <= kind::plugin) || isBehindPointer(tag);
+/// What a value of the kind is made of, or its elements; none for a kind without a value.
+ValueShape shapeOf(std::int32_t kind) {
+    const ParameterType* element = findElementType(kind);
+    const ParameterType* type = element != nullptr ? element : findType(kind);
+    return type != nullptr ? type->shape : ValueShape::none;
+}
+
+/// Whether a value of the kind is behind a pointer, which may be null.
+bool isBehindPointer(std::int32_t kind) {
+    return kind == type_code::string || kind == type_code::list || findElementType(kind) != nullptr;
 }
 
 }  // namespace
@@ -123,11 +116,13 @@ DefaultValue readTaggedDefault(const Item& item) {
     DefaultValue value;
     value.kind = readKind(Item(item, names[0], *tag));
     if (payload == nullptr) {
-        if (hasPayload(value.kind)) item.fail("must have a \"value\"");
+        if (shapeOf(value.kind) != ValueShape::none) item.fail("must have a \"value\"");
         return value;
     }
     const Item payloadItem(item, names[1], *payload);
-    if (!(payloadItem.isNull() && isBehindPointer(value.kind))) readPayload(value, payloadItem);
+    if (payloadItem.isNull() && isBehindPointer(value.kind)) return value;
+    const bool isTypedList = findElementType(value.kind) != nullptr;
+    (isTypedList ? readList : readSingle)(value, shapeOf(value.kind), payloadItem);
     return value;
 }
 

@@ -8,6 +8,8 @@
 #include <variant>
 #include <vector>
 
+#include "sdk/parameter_type.h"
+
 namespace metagen::replay {
 
 /// A text, or nothing where the interface gives a null pointer.
@@ -31,45 +33,12 @@ struct DefaultValue {
         payload;
 };
 
-/// The tags that have a payload, as the SDK's interface numbers them.
-namespace kind {
-inline constexpr std::int32_t badValue = -1;
-inline constexpr std::int32_t integer = 0;
-inline constexpr std::int32_t single = 1;
-inline constexpr std::int32_t real = 2;
-inline constexpr std::int32_t boolean = 3;
-inline constexpr std::int32_t vector = 4;
-inline constexpr std::int32_t color = 5;
-inline constexpr std::int32_t acolor = 6;
-inline constexpr std::int32_t matrix = 7;
-inline constexpr std::int32_t transform = 8;
-inline constexpr std::int32_t string = 9;
-inline constexpr std::int32_t plugin = 10;
-inline constexpr std::int32_t list = 12;
-inline constexpr std::int32_t integerList = 100;
-inline constexpr std::int32_t floatList = 101;
-inline constexpr std::int32_t vectorList = 104;
-inline constexpr std::int32_t colorList = 105;
-inline constexpr std::int32_t transformList = 108;
-inline constexpr std::int32_t stringList = 109;
-inline constexpr std::int32_t pluginList = 110;
-inline constexpr std::int32_t unspecified = 10000;
-}  // namespace kind
-
 /// Floats that one value of the kind takes: of a single vector, colour, acolor, matrix or
 /// transform, or of one element of a list of such; 1 for every other kind.
-constexpr std::size_t floatsPerValue(std::int32_t tag) {
-    switch (tag) {
-        case kind::vector:
-        case kind::color:
-        case kind::vectorList:
-        case kind::colorList: return 3;
-        case kind::acolor: return 4;
-        case kind::matrix: return 9;
-        case kind::transform:
-        case kind::transformList: return 12;
-        default: return 1;
-    }
+inline std::size_t floatsPerValue(std::int32_t kind) {
+    const ParameterType* element = findElementType(kind);
+    const ParameterType* type = element != nullptr ? element : findType(kind);
+    return type != nullptr ? type->components : 1;
 }
 
 }  // namespace metagen::replay

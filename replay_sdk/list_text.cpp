@@ -1,6 +1,5 @@
 #include "replay_sdk/list_text.h"
 
-#include <array>
 #include <charconv>
 
 #include "support/number_text.h"
@@ -10,22 +9,6 @@ namespace metagen::replay {
 namespace {
 
 constexpr std::string_view separator = ", ";
-
-struct ListForm {
-    std::string_view opening;
-    std::int32_t kind;
-};
-
-constexpr std::array<ListForm, 8> listForms = {{
-    {"List(", kind::list},
-    {"IntList(", kind::integerList},
-    {"FloatList(", kind::floatList},
-    {"VectorList(", kind::vectorList},
-    {"ColorList(", kind::colorList},
-    {"TransformList(", kind::transformList},
-    {"StringList(", kind::stringList},
-    {"PluginList(", kind::pluginList},
-}};
 
 /// The parts between the separators, one at least. A text that has separators inside is cut at
 /// them too, which the joined text doesn't show.
@@ -64,81 +47,90 @@ void appendTriple(std::string& out, std::string_view opening, const float* numbe
     out += ')';
 }
 
-void appendElement(std::string& out, std::int32_t listKind, const float* numbers) {
-    switch (listKind) {
-        case kind::floatList: appendGeneral(out, static_cast<double>(*numbers)); break;
-        case kind::vectorList: appendTriple(out, "Vector(", numbers); break;
-        case kind::colorList: appendTriple(out, "Color(", numbers); break;
-        default:
-            appendTriple(out, "Transform(Matrix(Vector(", numbers);
-            appendTriple(out, ", Vector(", numbers + 3);
-            appendTriple(out, ", Vector(", numbers + 6);
-            appendTriple(out, "), Vector(", numbers + 9);
-            out += ')';
+void appendElement(std::string& out, const ParameterType& type, const float* numbers) {
+    if (type.code == type_code::transform) {
+        appendTriple(out, "Transform(Matrix(Vector(", numbers);
+        appendTriple(out, ", Vector(", numbers + 3);
+        appendTriple(out, ", Vector(", numbers + 6);
+        appendTriple(out, "), Vector(", numbers + 9);
+        out += ')';
+    } else if (type.shape == ValueShape::floats) {
+        appendTriple(out, std::string(type.word) + '(', numbers);
+    } else {
+        appendGeneral(out, static_cast<double>(*numbers));
     }
+}
+
+void appendElement(std::string& out, const ParameterType& /*type*/, const std::int32_t* number) {
+    appendInteger(out, *number);
 }
 
 /// The text that is written for the list.
-std::string textOf(const ListForm& form, const std::vector<float>& numbers) {
-    const std::size_t width = floatsPerValue(form.kind);
-    std::string text(form.opening);
-    for (std::size_t index = 0; index + width <= numbers.size(); index += width) {
+template <typename Number>
+std::string textOf(const ParameterType& type, const std::vector<Number>& numbers) {
+    std::string text = std::string(type.listWord) + '(';
+    for (std::size_t index = 0; index + type.components <= numbers.size();
+         index += type.components) {
         if (index > 0) text += separator;
-        appendElement(text, form.kind, numbers.data() + index);
-    }
-    return text += ')';
-}
-
-std::string textOf(const ListForm& form, const std::vector<std::int32_t>& numbers) {
-    std::string text(form.opening);
-    for (const std::int32_t number : numbers) {
-        if (text.size() > form.opening.size()) text += separator;
-        appendInteger(text, number);
+        appendElement(text, type, numbers.data() + index);
     }
     return text += ')';
 }
 
 /// Reading numbers is generous, so the proof is in the writing.
 template <typename Number>
-std::optional<DefaultValue> numberList(const ListForm& form, std::string_view text) {
+std::optional<DefaultValue> numberList(const ParameterType& type, std::string_view text) {
     std::vector<Number> numbers = numbersIn<Number>(text);
-    if (numbers.empty() || textOf(form, numbers) != text) return std::nullopt;
-    return DefaultValue{form.kind, std::move(numbers)};
+    if (numbers.empty() || textOf(type, numbers) != text) return std::nullopt;
+    return DefaultValue{listCodeOf(type.code), std::move(numbers)};
 }
 
 DefaultValue genericList(std::string_view inside) {
     std::vector<DefaultValue> values;
     for (const std::string_view part : split(inside))
-        values.push_back({kind::string, std::string(part)});
-    return {kind::list, std::move(values)};
+        values.push_back({type_code::string, std::string(part)});
+    return {type_code::list, std::move(values)};
 }
 
 DefaultValue stringList(std::string_view inside) {
     std::vector<Text> texts;
     for (const std::string_view part : split(inside)) texts.emplace_back(part);
-    return {kind::stringList, std::move(texts)};
+    return {listCodeOf(type_code::string), std::move(texts)};
 }
 
 DefaultValue pluginList(std::string_view inside, const InstanceNaming& instanceOf) {
     std::vector<PluginReference> references;
     for (const std::string_view part : split(inside))
         references.push_back({true, instanceOf(part), 0});
-    return {kind::pluginList, std::move(references)};
+    return {listCodeOf(type_code::plugin), std::move(references)};
+}
+
+/// What stands between the word with its parenthesis and the closing one; nothing when the text is
+/// of another form.
+std::optional<std::string_view> insideOf(std::string_view text, std::string_view word) {
+    if (word.empty() || !text.starts_with(std::string(word) + '(') || !text.ends_with(')')) {
+        return std::nullopt;
+    }
+    return text.substr(word.size() + 1, text.size() - word.size() - 2);
 }
 
 }  // namespace
 
 std::optional<DefaultValue> listFromText(std::string_view text, const InstanceNaming& instanceOf) {
-    for (const ListForm& form : listForms) {
-        if (!text.starts_with(form.opening) || !text.ends_with(')')) continue;
-        const std::string_view inside =
-            text.substr(form.opening.size(), text.size() - form.opening.size() - 1);
-        switch (form.kind) {
-            case kind::list: return genericList(inside);
-            case kind::stringList: return stringList(inside);
-            case kind::pluginList: return pluginList(inside, instanceOf);
-            case kind::integerList: return numberList<std::int32_t>(form, text);
-            default: return numberList<float>(form, text);
+    if (const auto inside = insideOf(text, "List")) return genericList(*inside);
+    for (const ParameterType& type : parameterTypes) {
+        const auto inside = insideOf(text, type.listWord);
+        if (!inside) continue;
+        switch (type.shape) {
+            case ValueShape::integer: return numberList<std::int32_t>(type, text);
+            case ValueShape::single:
+            case ValueShape::floats: return numberList<float>(type, text);
+            case ValueShape::text: return stringList(*inside);
+            case ValueShape::plugin: return pluginList(*inside, instanceOf);
+            case ValueShape::none:
+            case ValueShape::real:
+            case ValueShape::boolean:
+            case ValueShape::values: break;  // these have no list of their own
         }
     }
     return std::nullopt;

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "replay_sdk/default_reader.h"
-#include "replay_sdk/vocabulary.h"
+#include "sdk/parameter_type.h"
 
 namespace metagen::replay {
 
@@ -46,19 +46,19 @@ private:
 };
 
 std::int32_t readTypeName(const Item& name) {
-    const std::optional<std::int32_t> code = typeCodeOf(name.text());
-    if (!code) name.fail("unknown type \"" + name.text() + '"');
-    return *code;
+    const std::int32_t code = metagen::typeCode(name.text());
+    if (code == type_code::unknown) name.fail("unknown type \"" + name.text() + '"');
+    return code;
 }
 
 void readType(const ParameterItem& parameter, ParameterFacts& facts) {
-    constexpr std::int32_t firstList = 100;
-    constexpr std::int32_t lastList = 117;
+    constexpr std::int32_t lastList = type_code::listOffset + type_code::transformTexture;
     parameter.refuseBoth(type, typeCode);
     parameter.refuseBoth(typeCode, listType);
     if (parameter.has(typeCode)) {
         facts.typeCode = parameter.at(typeCode).integer32();
-        if (facts.typeCode >= firstList && facts.typeCode <= lastList) facts.elementsCount = 0;
+        if (facts.typeCode >= type_code::listOffset && facts.typeCode <= lastList)
+            facts.elementsCount = 0;
         return;
     }
     if (!parameter.has(type)) parameter.item.fail("must have a \"type\" or a \"typeCode\"");
@@ -66,7 +66,7 @@ void readType(const ParameterItem& parameter, ParameterFacts& facts) {
     if (!parameter.has(listType)) return;
     if (parameter.at(type).text() != "list")
         parameter.at(listType).fail("stands only beside the type \"list\"");
-    facts.typeCode = listTypeCode(readTypeName(parameter.at(listType)));
+    facts.typeCode = listCodeOf(readTypeName(parameter.at(listType)));
     facts.elementsCount = 0;
 }
 
@@ -90,7 +90,7 @@ std::unique_ptr<Guide> readGuide(const Item& item) {
 
 DefaultValue readDefaultText(const Item& text, bool isList, const InstanceNaming& instanceOf) {
     // Every kind of single value is served as the text that it is written as.
-    if (!isList) return {kind::string, text.text()};
+    if (!isList) return {type_code::string, text.text()};
     std::optional<DefaultValue> list = listFromText(text.text(), instanceOf);
     if (!list) text.fail("no list value is written like this");
     return std::move(*list);
@@ -98,8 +98,8 @@ DefaultValue readDefaultText(const Item& text, bool isList, const InstanceNaming
 
 /// The values for which no default is written.
 DefaultValue noDefault(bool isList) {
-    if (isList) return {kind::list, {}};
-    return {kind::string, std::string("\"\"")};
+    if (isList) return {type_code::list, {}};
+    return {type_code::string, std::string("\"\"")};
 }
 
 DefaultValue readDefault(const ParameterItem& parameter, bool isList,

@@ -42,7 +42,7 @@ void ValueWriter::writePayload(const std::vector<std::int32_t>& integers, QyraVa
 }
 
 void ValueWriter::writePayload(const std::vector<float>& floats, QyraValue& out) {
-    if (out.kind < kind::integerList) {
+    if (!isListCode(out.kind)) {
         std::copy(floats.begin(), floats.end(), out.components);
         return;
     }

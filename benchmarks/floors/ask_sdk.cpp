@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "sdk/entry_point_table.h"
+#include "sdk/parameter_type.h"
 #include "sdk/renderer.h"
 #include "sdk/sdk_memory.h"
 #include "sdk/sdk_session.h"
@@ -37,13 +38,13 @@ void askInstance(const QyraPluginReference& reference, bool isListed) {
 
 /// The names of the plugins that the value refers to, as its text has them.
 void askInstances(const QyraValue& value) {
-    constexpr std::int32_t pluginReference = 10;
-    if (value.kind == pluginReference) askInstance(value.reference, false);
-    if (value.kind == qyra_kind::pluginList) {
+    using namespace metagen::type_code;  // NOLINT(google-build-using-namespace): their names alone
+    if (value.kind == plugin) askInstance(value.reference, false);
+    if (value.kind == metagen::listCodeOf(plugin)) {
         for (const auto& element : metagen::elementsOf<const QyraPluginReference>(value))
             askInstance(element, true);
     }
-    if (value.kind == qyra_kind::genericList) {
+    if (value.kind == list) {
         for (const auto& element : metagen::elementsOf<const QyraValue>(value))
             askInstances(element);
     }

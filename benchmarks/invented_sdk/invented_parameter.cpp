@@ -6,7 +6,17 @@ namespace metagen::invented {
 
 namespace {
 
-namespace kind = replay::kind;
+/// The tags of values: type codes of single values, and of lists.
+namespace kind {
+using namespace type_code;  // NOLINT(google-build-using-namespace): all of them, by their names
+constexpr std::int32_t integerList = listCodeOf(integer);
+constexpr std::int32_t floatList = listCodeOf(floatNumber);
+constexpr std::int32_t vectorList = listCodeOf(vector);
+constexpr std::int32_t colorList = listCodeOf(color);
+constexpr std::int32_t transformList = listCodeOf(transform);
+constexpr std::int32_t stringList = listCodeOf(string);
+constexpr std::int32_t pluginList = listCodeOf(plugin);
+}  // namespace kind
 
 /// Not a kind: the value comes from a user-interface guide with so many floats, or with none.
 constexpr std::int32_t colorGuide = -103;
@@ -29,9 +39,9 @@ struct MixEntry {
 };
 
 constexpr std::array<MixEntry, 45> mix = {{
-    {188, 1, single, kind::single, 0},
+    {188, 1, single, kind::floatNumber, 0},
     {20, 1, single, singleGuide, 0},
-    {8, 2, single, kind::real, 0},
+    {8, 2, single, kind::doubleNumber, 0},
     {141, 0, single, kind::integer, 0},
     {127, 3, single, kind::boolean, 0},
     {32, 11, single, kind::acolor, 0},
@@ -41,7 +51,7 @@ constexpr std::array<MixEntry, 45> mix = {{
     {12, 11, single, kind::plugin, 0},
     {14, 11, single, noDefault, 0},
     {64, 9, single, kind::string, 0},
-    {34, 13, single, kind::single, 0},
+    {34, 13, single, kind::floatNumber, 0},
     {18, 13, single, singleGuide, 0},
     {36, 10, single, kind::plugin, 0},
     {12, 10, single, noDefault, 0},
@@ -173,6 +183,50 @@ std::vector<Element> inventElements(Dice& dice, const Invent& invent) {
     std::vector<Element> elements(1 + dice.below(14));
     for (Element& element : elements) element = invent(dice);
     return elements;
+}
+
+replay::DefaultValue inventSingle(const ParameterType& type, Dice& dice) {
+    switch (type.shape) {
+        case ValueShape::integer: return {type.code, inventInteger(dice)};
+        case ValueShape::single: return {type.code, inventFloat(dice)};
+        case ValueShape::real: return {type.code, static_cast<double>(inventFloat(dice))};
+        case ValueShape::boolean: return {type.code, static_cast<std::uint8_t>(dice.below(2))};
+        case ValueShape::floats: return {type.code, inventFloats(type.code, 1, dice)};
+        case ValueShape::text: return {type.code, inventText(dice)};
+        case ValueShape::plugin: return {type.code, inventReference(dice)};
+        case ValueShape::values:
+        case ValueShape::none: break;  // not in the mix
+    }
+    return {};
+}
+
+replay::DefaultValue inventList(const ParameterType& element, Dice& dice) {
+    const std::int32_t tag = listCodeOf(element.code);
+    switch (element.shape) {
+        case ValueShape::integer: return {tag, inventElements<std::int32_t>(dice, inventInteger)};
+        case ValueShape::single:
+        case ValueShape::floats: return {tag, inventFloats(tag, 1 + dice.below(14), dice)};
+        case ValueShape::text: return {tag, inventElements<replay::Text>(dice, inventText)};
+        case ValueShape::plugin:
+            return {tag, inventElements<replay::PluginReference>(dice, inventReference)};
+        case ValueShape::real:
+        case ValueShape::boolean:
+        case ValueShape::values:
+        case ValueShape::none: break;  // these have no list of their own
+    }
+    return {};
+}
+
+/// A default value with this tag; a generic list has elements with elementTag.
+replay::DefaultValue inventValue(std::int32_t tag, std::int32_t elementTag, Dice& dice) {
+    if (tag != kind::list) {
+        const ParameterType* element = findElementType(tag);
+        return element != nullptr ? inventList(*element, dice) : inventSingle(*findType(tag), dice);
+    }
+    const auto inventElement = [element = findType(elementTag)](Dice& again) {
+        return inventSingle(*element, again);
+    };
+    return {tag, inventElements<replay::DefaultValue>(dice, inventElement)};
 }
 
 InventedParameter guided(const MixEntry& entry, Dice& dice) {

@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "metadata/default_value_parser.h"
 #include "sdk/parameter_type.h"
 #include "support/end_run.h"
 
@@ -50,7 +49,8 @@ bool lacksDefault(json::Object entry) {
         }
     }
     if (hasTypeOrDefault || !listType) return false;
-    return hasDefaultValueReader(typeCode(*listType, ""));
+    const ParameterType* type = findType(typeCode(*listType));
+    return type != nullptr && type->isReadable;
 }
 
 void reportEntries(std::string_view plugin, json::Object entries) {

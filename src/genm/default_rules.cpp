@@ -103,10 +103,6 @@ constexpr auto readAColors = readFloatLists<parseAColorList>;
 constexpr auto readMatrices = readFloatLists<parseMatrixList>;
 constexpr auto readTransforms = readFloatLists<parseTransformList>;
 
-constexpr std::int32_t listCode(std::int32_t elementCode) {
-    return elementCode + type_code::listOffset;
-}
-
 namespace code = type_code;
 namespace shape = descriptor;
 namespace prefix = array_prefix;
@@ -132,32 +128,34 @@ constexpr std::array<DefaultRule, 34> rules = {{
     {code::vectorTexture, readNothing},
     {code::matrixTexture, readNothing},
     {code::transformTexture, readNothing},
-    {listCode(code::integer), readIntegers, &shape::integerList, prefix::integers,
+    {listCodeOf(code::integer), readIntegers, &shape::integerList, prefix::integers,
      &shape::integerList, emptyFallsBack},
-    {listCode(code::floatNumber), readFloats, &shape::floatList, prefix::floats, &shape::floatList,
-     emptyFallsBack},
-    {listCode(code::boolean), readIntegers, &shape::integerList, prefix::integers,
+    {listCodeOf(code::floatNumber), readFloats, &shape::floatList, prefix::floats,
+     &shape::floatList, emptyFallsBack},
+    {listCodeOf(code::boolean), readIntegers, &shape::integerList, prefix::integers,
      &shape::integerList, emptyFallsBack},
-    {listCode(code::vector), readVector3s, &shape::vector3List, prefix::vector,
+    {listCodeOf(code::vector), readVector3s, &shape::vector3List, prefix::vector,
      &shape::vector3List},
-    {listCode(code::color), readVector3s, &shape::vector3List, prefix::color, &shape::vector3List},
-    {listCode(code::acolor), readAColors, &shape::acolorList, prefix::acolor, &shape::acolorList},
-    {listCode(code::matrix), readMatrices, &shape::matrixList, prefix::matrix, &shape::matrixList},
-    {listCode(code::transform), readTransforms, &shape::transformList, prefix::transform,
+    {listCodeOf(code::color), readVector3s, &shape::vector3List, prefix::color,
+     &shape::vector3List},
+    {listCodeOf(code::acolor), readAColors, &shape::acolorList, prefix::acolor, &shape::acolorList},
+    {listCodeOf(code::matrix), readMatrices, &shape::matrixList, prefix::matrix,
+     &shape::matrixList},
+    {listCodeOf(code::transform), readTransforms, &shape::transformList, prefix::transform,
      &shape::transformList},
-    {listCode(code::string), readDescriptor, &shape::stringList},
-    {listCode(code::plugin), readFloats, &shape::floatList, prefix::floats, &shape::stringList,
+    {listCodeOf(code::string), readDescriptor, &shape::stringList},
+    {listCodeOf(code::plugin), readFloats, &shape::floatList, prefix::floats, &shape::stringList,
      emptyFallsBack},
-    {listCode(code::texture), readDescriptor, &shape::stringList},
-    {listCode(code::floatTexture), readFloats, &shape::floatList, prefix::floats,
+    {listCodeOf(code::texture), readDescriptor, &shape::stringList},
+    {listCodeOf(code::floatTexture), readFloats, &shape::floatList, prefix::floats,
      &shape::stringList, emptyFallsBack},
-    {listCode(code::integerTexture), readIntegers, &shape::integerList, prefix::integers,
+    {listCodeOf(code::integerTexture), readIntegers, &shape::integerList, prefix::integers,
      &shape::stringList},
-    {listCode(code::vectorTexture), readVector3s, &shape::vector3List, prefix::vector,
+    {listCodeOf(code::vectorTexture), readVector3s, &shape::vector3List, prefix::vector,
      &shape::stringList},
-    {listCode(code::matrixTexture), readMatrices, &shape::matrixList, prefix::matrix,
+    {listCodeOf(code::matrixTexture), readMatrices, &shape::matrixList, prefix::matrix,
      &shape::stringList},
-    {listCode(code::transformTexture), readTransforms, &shape::transformList, prefix::transform,
+    {listCodeOf(code::transformTexture), readTransforms, &shape::transformList, prefix::transform,
      &shape::stringList},
     {code::unspecified, readNothing},
 }};

@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "metadata/list_tokenizer.h"
-#include "sdk/parameter_type.h"
 #include "support/number_reader.h"
 #include "support/numeric.h"
 
@@ -19,11 +18,6 @@ constexpr std::array vector3Fields = {1, 2, 3};
 constexpr std::array acolorFields = {1, 2, 3, 4};
 constexpr std::array matrixFields = {2, 3, 4, 6, 7, 8, 10, 11, 12};
 constexpr std::array transformFields = {3, 4, 5, 7, 8, 9, 11, 12, 13, 15, 16, 17};
-
-constexpr std::array readableCodes = {
-    type_code::integer, type_code::floatNumber, type_code::boolean,     type_code::vector,
-    type_code::color,   type_code::acolor,      type_code::matrix,      type_code::transform,
-    type_code::plugin,  type_code::texture,     type_code::floatTexture};
 
 /// Calls take for every element while it returns true; whether the text is a list and all were
 /// taken.
@@ -49,10 +43,6 @@ bool parseCompoundList(std::string_view text, const std::array<int, Count>& fiel
 }
 
 }  // namespace
-
-bool hasDefaultValueReader(std::int32_t code) {
-    return std::ranges::find(readableCodes, code) != readableCodes.end();
-}
 
 bool readFixedFields(std::string_view text, std::span<const int> wantedFields,
                      std::span<float> out) {

@@ -10,10 +10,6 @@
 
 namespace metagen {
 
-/// Whether there is a reader for single values of the type with that code. There is none for
-/// doubles, which never arise from documents, nor for texts and the textures of numbers but floats.
-bool hasDefaultValueReader(std::int32_t code);
-
 /// Cuts the text at "(" and ","; field 0 is the type word. Reads the fields with the wanted
 /// numbers, which ascend, into out, which has at least as many places. True when all of them were
 /// there; a field that is no number reads as 0, fields after the last wanted one are ignored.

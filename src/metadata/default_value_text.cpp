@@ -1,8 +1,8 @@
 #include "metadata/default_value_text.h"
 
-#include <array>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "sdk/parameter_type.h"
 #include "sdk/renderer.h"
@@ -36,36 +36,23 @@ void appendFloats(std::string& out, std::string_view word, std::span<const float
     appendElements(out, word, numbers, appendFloat);
 }
 
-using Floats3 = std::span<const float, 3>;
-using Floats9 = std::span<const float, 9>;
-using Floats12 = std::span<const float, 12>;
-
-void appendVector(std::string& out, Floats3 vector) { appendFloats(out, "Vector", vector); }
-
-void appendColor(std::string& out, Floats3 color) { appendFloats(out, "Color", color); }
-
-void appendMatrix(std::string& out, Floats9 matrix) {
-    const Floats3 rows[] = {matrix.subspan<0, 3>(), matrix.subspan<3, 3>(), matrix.subspan<6, 3>()};
-    appendElements(out, "Matrix", rows, appendVector);
+void appendMatrix(std::string& out, std::span<const float> matrix) {
+    const std::span<const float> rows[] = {matrix.first(3), matrix.subspan(3, 3),
+                                           matrix.subspan(6, 3)};
+    appendElements(out, "Matrix", rows, [](std::string& text, std::span<const float> row) {
+        appendFloats(text, "Vector", row);
+    });
 }
 
-void appendTransform(std::string& out, Floats12 transform) {
+/// A vector or a colour, a matrix by rows, or a matrix and an offset.
+void appendCompound(std::string& out, const ParameterType& type, std::span<const float> numbers) {
+    if (type.code == type_code::matrix) return appendMatrix(out, numbers);
+    if (type.code != type_code::transform) return appendFloats(out, type.word, numbers);
     out += "Transform(";
-    appendMatrix(out, transform.first<9>());
+    appendMatrix(out, numbers.first(9));
     out += ", ";
-    appendVector(out, transform.last<3>());
+    appendFloats(out, "Vector", numbers.last(3));
     out += ')';
-}
-
-/// A list whose elements lie in one array of floats.
-template <std::size_t count>
-void appendCompounds(std::string& out, std::string_view word, const QyraValue& list,
-                     void (*appendOne)(std::string& out, std::span<const float, count> floats)) {
-    using Floats = std::array<float, count>;
-    appendElements(out, word, elementsOf<const Floats>(list),
-                   [appendOne](std::string& text, const Floats& floats) {
-                       appendOne(text, std::span<const float, count>(floats));
-                   });
 }
 
 void appendText(std::string& out, const char* text) {
@@ -87,50 +74,70 @@ void appendPluginReference(std::string& out, const QyraPluginReference& referenc
     if (property != nullptr) out.append("::").append(property);
 }
 
-void appendListText(std::string& out, const QyraValue& value) {
-    switch (value.kind) {
-        case qyra_kind::genericList:
-            return appendElements(out, "List", elementsOf<const QyraValue>(value),
-                                  appendDefaultValueText);
-        case qyra_kind::integerList:
-            return appendElements(out, "IntList", elementsOf<const std::int32_t>(value),
-                                  appendInteger);
-        case qyra_kind::floatList:
-            return appendFloats(out, "FloatList", elementsOf<const float>(value));
-        case qyra_kind::vectorList: return appendCompounds(out, "VectorList", value, appendVector);
-        case qyra_kind::colorList: return appendCompounds(out, "ColorList", value, appendColor);
-        case qyra_kind::transformList:
-            return appendCompounds(out, "TransformList", value, appendTransform);
-        case qyra_kind::textList:
-            return appendElements(out, "StringList", elementsOf<const char* const>(value),
-                                  appendText);
-        case qyra_kind::pluginList:
+/// The elements lie in one array of floats.
+void appendCompounds(std::string& out, const ParameterType& type, const QyraValue& list) {
+    const auto* numbers = static_cast<const float*>(list.elements);
+    const std::span<const float> all(numbers, elementCount(list) * type.components);
+    std::vector<std::span<const float>> compounds;
+    for (std::size_t begin = 0; begin < all.size(); begin += type.components) {
+        compounds.push_back(all.subspan(begin, type.components));
+    }
+    appendElements(out, type.listWord, compounds,
+                   [&type](std::string& text, std::span<const float> compound) {
+                       appendCompound(text, type, compound);
+                   });
+}
+
+void appendList(std::string& out, const ParameterType& type, const QyraValue& list) {
+    const std::string_view word = type.listWord;
+    switch (type.shape) {
+        case ValueShape::integer:
+            return appendElements(out, word, elementsOf<const std::int32_t>(list), appendInteger);
+        case ValueShape::single: return appendFloats(out, word, elementsOf<const float>(list));
+        case ValueShape::floats: return appendCompounds(out, type, list);
+        case ValueShape::text:
+            return appendElements(out, word, elementsOf<const char* const>(list), appendText);
+        case ValueShape::plugin:
             // The elements are not asked whether they exist, unlike a single reference.
-            return appendElements(out, "PluginList", elementsOf<const QyraPluginReference>(value),
+            return appendElements(out, word, elementsOf<const QyraPluginReference>(list),
                                   appendPluginName);
-        default: out += "<?>"; return;
+        case ValueShape::none:
+        case ValueShape::real:
+        case ValueShape::boolean:
+        case ValueShape::values: return;  // these have no list of their own
+    }
+}
+
+void appendSingle(std::string& out, const ParameterType& type, const QyraValue& value) {
+    switch (type.shape) {
+        case ValueShape::none: out += "<?>"; return;
+        case ValueShape::integer: return appendInteger(out, value.integer);
+        case ValueShape::single: return appendFloat(out, value.single);
+        case ValueShape::real: return appendGeneral(out, value.real);
+        case ValueShape::boolean: out += value.boolean != 0 ? '1' : '0'; return;
+        case ValueShape::floats:
+            return appendCompound(out, type, std::span(value.components).first(type.components));
+        case ValueShape::text: return appendText(out, value.text);
+        case ValueShape::plugin: return appendPluginReference(out, value.reference);
+        case ValueShape::values:
+            return appendElements(out, type.word, elementsOf<const QyraValue>(value),
+                                  appendDefaultValueText);
     }
 }
 
 }  // namespace
 
 void appendDefaultValueText(std::string& out, const QyraValue& value) {
-    const std::span<const float, 12> components(value.components);
-    switch (value.kind) {
-        case qyra_kind::bad: out += "#BadValue"; return;
-        case qyra_kind::unspecified: out += "#Unspecified"; return;
-        case type_code::integer: return appendInteger(out, value.integer);
-        case type_code::floatNumber: return appendFloat(out, value.single);
-        case type_code::doubleNumber: return appendGeneral(out, value.real);
-        case type_code::boolean: out += value.boolean != 0 ? '1' : '0'; return;
-        case type_code::vector: return appendVector(out, components.first<3>());
-        case type_code::color: return appendColor(out, components.first<3>());
-        case type_code::acolor: return appendFloats(out, "AColor", components.first<4>());
-        case type_code::matrix: return appendMatrix(out, components.first<9>());
-        case type_code::transform: return appendTransform(out, components);
-        case type_code::string: return appendText(out, value.text);
-        case type_code::plugin: return appendPluginReference(out, value.reference);
-        default: return appendListText(out, value);
+    if (value.kind == qyra_kind::bad) {
+        out += "#BadValue";
+    } else if (value.kind == qyra_kind::unspecified) {
+        out += "#Unspecified";
+    } else if (const ParameterType* type = findType(value.kind)) {
+        appendSingle(out, *type, value);
+    } else if (const ParameterType* elementType = findElementType(value.kind)) {
+        appendList(out, *elementType, value);
+    } else {
+        out += "<?>";
     }
 }
 

@@ -19,81 +19,45 @@ QyraValue compound(std::int32_t kind, std::span<const float> numbers) {
     return value;
 }
 
-QyraValue grey(std::int32_t kind, float number) {
-    return compound(kind, std::array{number, number, number});
-}
-
-QyraValue opaque(std::span<const float> color) {
-    return compound(type_code::acolor, std::array{color[0], color[1], color[2], 1.0F});
-}
-
-[[noreturn]] void throwWrongSize() { throw std::invalid_argument("Wrong size of default values"); }
-
-QyraValue exactly(std::int32_t kind, std::size_t count, std::span<const float> sequence) {
-    if (sequence.size() != count) throwWrongSize();
-    return compound(kind, sequence);
-}
-
-QyraValue vectorOrColor(std::int32_t kind, std::span<const float> sequence) {
-    return sequence.size() == 1 ? grey(kind, sequence[0]) : exactly(kind, 3, sequence);
-}
-
-QyraValue acolor(std::span<const float> sequence) {
-    if (sequence.size() == 1) return opaque(std::array{sequence[0], sequence[0], sequence[0]});
-    if (sequence.size() == 3) return opaque(sequence);
-    return exactly(type_code::acolor, 4, sequence);
-}
-
-QyraValue textureColor(std::span<const float> sequence) {
-    if (sequence.size() == 4) return compound(type_code::acolor, sequence);
-    return vectorOrColor(type_code::color, sequence);
-}
-
-QyraValue integer(float number) {
-    QyraValue value = {};
-    value.kind = type_code::integer;
-    value.integer = toInt32(static_cast<double>(number));
-    return value;
-}
-
-QyraValue boolean(float number) {
-    QyraValue value = {};
-    value.kind = type_code::boolean;
-    value.boolean = number != 0 ? 1 : 0;
-    return value;
-}
-
-QyraValue single(float number) {
-    QyraValue value = {};
-    value.kind = type_code::floatNumber;
-    value.single = number;
-    return value;
+/// A colour or a vector may be told by one number, a colour with alpha also without its alpha, and
+/// a texture's colour with one.
+QyraValue compoundOf(const ParameterType& type, std::span<const float> numbers) {
+    const std::size_t count = numbers.size();
+    if (type.code == type_code::vectorTexture) return compound(type.guided, numbers);
+    const bool isTexture = type.code == type_code::plugin || type.code == type_code::texture;
+    const std::int32_t kind = isTexture && count == 4 ? type_code::acolor : type.guided;
+    const std::size_t components = findType(kind)->components;
+    const bool isShort = components <= 4 && count == 1;
+    const bool isOpaque = kind == type_code::acolor && count == 3;
+    if (count != components && !isShort && !isOpaque) {
+        throw std::invalid_argument("Wrong size of default values");
+    }
+    if (isShort) return compoundOf(type, std::array{numbers[0], numbers[0], numbers[0]});
+    if (isOpaque) return compound(kind, std::array{numbers[0], numbers[1], numbers[2], 1.0F});
+    return compound(kind, numbers);
 }
 
 }  // namespace
 
 QyraValue valueOfGuide(std::int32_t code, float number, std::span<const float> sequence) {
-    switch (code) {
-        case type_code::integer:
-        case type_code::integerTexture: return integer(number);
-        case type_code::floatNumber:
-        case type_code::doubleNumber:
-        case type_code::floatTexture: return single(number);
-        case type_code::boolean: return boolean(number);
-        case type_code::vector:
-        case type_code::color: return vectorOrColor(code, sequence);
-        case type_code::acolor: return acolor(sequence);
-        case type_code::matrix:
-        case type_code::matrixTexture: return exactly(type_code::matrix, 9, sequence);
-        case type_code::transform:
-        case type_code::transformTexture: return exactly(type_code::transform, 12, sequence);
-        case type_code::plugin:
-        case type_code::texture: return textureColor(sequence);
-        case type_code::vectorTexture:
-            return compound(type_code::vector,
-                            sequence.first(std::min(sequence.size(), std::size_t{3})));
-        default: throw std::invalid_argument("Wrong type of default values");
+    const ParameterType* type = findType(code);
+    const ParameterType* guided = type == nullptr ? nullptr : findType(type->guided);
+    QyraValue value = {};
+    if (guided != nullptr) value.kind = guided->code;
+    switch (guided == nullptr ? ValueShape::none : guided->shape) {
+        case ValueShape::integer:
+            value.integer = toInt32(static_cast<double>(number));
+            return value;
+        case ValueShape::single: value.single = number; return value;
+        case ValueShape::boolean: value.boolean = number != 0 ? 1 : 0; return value;
+        case ValueShape::floats: return compoundOf(*type, sequence);
+        case ValueShape::none:
+        case ValueShape::real:
+        case ValueShape::text:
+        case ValueShape::plugin:
+        case ValueShape::values: break;
     }
+    throw std::invalid_argument("Wrong type of default values");
 }
 
 }  // namespace metagen

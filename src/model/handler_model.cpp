@@ -20,8 +20,8 @@ void tellGrey(HandlerParameter& parameter, float value) {
 /// alpha.
 void tellColor(HandlerParameter& parameter, std::string_view text) {
     std::array<float, 3>& color = parameter.components;
-    if (!parseVector3(text, color)) return tellGrey(parameter, parseFloat(text));
-    const bool grey = color[0] == color[1] && color[0] == color[2];
+    if (!parseVector3(text, color)) color.fill(parseFloat(text));
+    const bool grey = color[0] == color[1] && color[0] == color[2];  // NaNs are none
     if (grey) return tellGrey(parameter, color[0]);
     parameter.componentCount = color.size();
 }

@@ -5,18 +5,10 @@
 
 #include <cstdint>
 
-/// The kinds of values that are told apart by more than the type code of a single value.
+/// The kinds of values that stand for no value. The others are type codes (parameter_type.h): of a
+/// single value, the generic list, or a list of one type.
 namespace qyra_kind {
 inline constexpr std::int32_t bad = -1;
-inline constexpr std::int32_t text = 9;
-inline constexpr std::int32_t genericList = 12;
-inline constexpr std::int32_t integerList = 100;
-inline constexpr std::int32_t floatList = 101;
-inline constexpr std::int32_t vectorList = 104;
-inline constexpr std::int32_t colorList = 105;
-inline constexpr std::int32_t transformList = 108;
-inline constexpr std::int32_t textList = 109;
-inline constexpr std::int32_t pluginList = 110;
 inline constexpr std::int32_t unspecified = 10000;
 }  // namespace qyra_kind
 
@@ -31,7 +23,7 @@ struct QyraPluginReference {
 /// that array, the parts of nested values) was allocated by the SDK, each as a block of its own,
 /// and is given back with `C_memory_free`.
 struct QyraValue {
-    std::int32_t kind;    ///< 0 to 10: a single value of that type code, or one of qyra_kind
+    std::int32_t kind;    ///< a type code from 0 to 10, 12 or a list's, or one of qyra_kind
     std::uint32_t count;  ///< elements of a list kind, otherwise 0
     union {
         std::int32_t integer;  ///< kind 0

@@ -1,9 +1,7 @@
 #include "sdk/sdk_memory.h"
 
-#include <algorithm>
-#include <array>
-
 #include "sdk/entry_point_table.h"
+#include "sdk/parameter_type.h"
 
 namespace metagen {
 
@@ -12,20 +10,15 @@ namespace {
 void freeBlock(void* memory) noexcept { entryPoints().C_memory_free(memory); }
 
 bool isList(const QyraValue& value) {
-    constexpr std::array kinds = {qyra_kind::genericList, qyra_kind::integerList,
-                                  qyra_kind::floatList,   qyra_kind::vectorList,
-                                  qyra_kind::colorList,   qyra_kind::transformList,
-                                  qyra_kind::textList,    qyra_kind::pluginList};
-    return std::ranges::find(kinds, value.kind) != kinds.end();
+    return value.kind == type_code::list || findElementType(value.kind) != nullptr;
 }
 
 void freeParts(QyraValue& value) noexcept {
-    if (value.kind == qyra_kind::text) freeBlock(value.text);
+    if (value.kind == type_code::string) freeBlock(value.text);
     if (!isList(value)) return;
-    if (value.kind == qyra_kind::genericList) {
+    if (value.kind == type_code::list) {
         for (QyraValue& element : elementsOf<QyraValue>(value)) freeParts(element);
-    }
-    if (value.kind == qyra_kind::textList) {
+    } else if (findElementType(value.kind)->shape == ValueShape::text) {
         for (char* text : elementsOf<char*>(value)) freeBlock(text);
     }
     freeBlock(value.elements);

@@ -24,13 +24,13 @@ std::vector<Element> elementsOf(const DefaultValue& list) {
 
 TEST(ListText, ReadsIntegers) {
     const DefaultValue list = listOf("IntList(1, -2, 2147483647)");
-    EXPECT_EQ(list.kind, kind::integerList);
+    EXPECT_EQ(list.kind, listCodeOf(type_code::integer));
     EXPECT_EQ(elementsOf<std::int32_t>(list), (std::vector<std::int32_t>{1, -2, 2147483647}));
 }
 
 TEST(ListText, ReadsFloats) {
     const DefaultValue list = listOf("FloatList(0.5, 1e-07, 1.23457e+08, -0, inf)");
-    EXPECT_EQ(list.kind, kind::floatList);
+    EXPECT_EQ(list.kind, listCodeOf(type_code::floatNumber));
     EXPECT_EQ(
         elementsOf<float>(list),
         (std::vector<float>{0.5F, 1e-7F, 123457000, 0, std::numeric_limits<float>::infinity()}));
@@ -38,10 +38,10 @@ TEST(ListText, ReadsFloats) {
 
 TEST(ListText, ReadsVectorsAndColours) {
     const DefaultValue vectors = listOf("VectorList(Vector(1, 2, 3), Vector(4, 5, 6))");
-    EXPECT_EQ(vectors.kind, kind::vectorList);
+    EXPECT_EQ(vectors.kind, listCodeOf(type_code::vector));
     EXPECT_EQ(elementsOf<float>(vectors), (std::vector<float>{1, 2, 3, 4, 5, 6}));
     const DefaultValue colors = listOf("ColorList(Color(1, 0.5, 0))");
-    EXPECT_EQ(colors.kind, kind::colorList);
+    EXPECT_EQ(colors.kind, listCodeOf(type_code::color));
     EXPECT_EQ(elementsOf<float>(colors), (std::vector<float>{1, 0.5F, 0}));
 }
 
@@ -49,19 +49,19 @@ TEST(ListText, ReadsTransforms) {
     const DefaultValue list = listOf(
         "TransformList(Transform(Matrix(Vector(1, 2, 3), Vector(4, 5, 6), Vector(7, 8, 9)), "
         "Vector(10, 11, 12)))");
-    EXPECT_EQ(list.kind, kind::transformList);
+    EXPECT_EQ(list.kind, listCodeOf(type_code::transform));
     EXPECT_EQ(elementsOf<float>(list), (std::vector<float>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
 }
 
 TEST(ListText, ReadsTexts) {
     const DefaultValue list = listOf("StringList(a, , b)c)");
-    EXPECT_EQ(list.kind, kind::stringList);
+    EXPECT_EQ(list.kind, listCodeOf(type_code::string));
     EXPECT_EQ(elementsOf<Text>(list), (std::vector<Text>{"a", "", "b)c"}));
 }
 
 TEST(ListText, ReadsPluginsByTheirNames) {
     const DefaultValue list = listOf("PluginList(abc, , a)");
-    EXPECT_EQ(list.kind, kind::pluginList);
+    EXPECT_EQ(list.kind, listCodeOf(type_code::plugin));
     std::vector<std::int64_t> ids;
     for (const PluginReference& reference : elementsOf<PluginReference>(list))
         ids.push_back(reference.pluginId);
@@ -70,10 +70,10 @@ TEST(ListText, ReadsPluginsByTheirNames) {
 
 TEST(ListText, ReadsElementsOfAGenericListAsTexts) {
     const DefaultValue list = listOf("List(3, Color(1, 0, 0))");
-    EXPECT_EQ(list.kind, kind::list);
+    EXPECT_EQ(list.kind, type_code::list);
     std::vector<std::string> texts;
     for (const DefaultValue& element : elementsOf<DefaultValue>(list)) {
-        EXPECT_EQ(element.kind, kind::string);
+        EXPECT_EQ(element.kind, type_code::string);
         texts.push_back(std::get<std::string>(element.payload));
     }
     EXPECT_EQ(texts, (std::vector<std::string>{"3", "Color(1", "0", "0)"}));

@@ -62,7 +62,7 @@ TEST(ParameterType, MayHaveAnyElementCount) {
 TEST(ParameterDefault, OfASingleValueIsServedAsItsText) {
     const Parameter parameter =
         readOne(R"json({"type":"color","defaultValue":"Color(1, 1, 1)"})json");
-    EXPECT_EQ(parameter.defaultValue.kind, kind::string);
+    EXPECT_EQ(parameter.defaultValue.kind, type_code::string);
     EXPECT_EQ(std::get<std::string>(parameter.defaultValue.payload), "Color(1, 1, 1)");
 }
 
@@ -77,10 +77,10 @@ TEST(ParameterDefault, OfAListIsAList) {
 
 TEST(ParameterDefault, ThatIsAbsentIsOneThatIsNotWritten) {
     const DefaultValue single = readOne(R"({"type":"color"})").defaultValue;
-    EXPECT_EQ(single.kind, kind::string);
+    EXPECT_EQ(single.kind, type_code::string);
     EXPECT_EQ(std::get<std::string>(single.payload), "\"\"");
     const DefaultValue list = readOne(R"({"type":"list","listType":"color"})").defaultValue;
-    EXPECT_EQ(list.kind, kind::list);
+    EXPECT_EQ(list.kind, type_code::list);
     EXPECT_TRUE(std::holds_alternative<std::monostate>(list.payload));
 }
 

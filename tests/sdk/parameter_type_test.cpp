@@ -93,5 +93,27 @@ TEST(TypeCode, NamesAreExact) {
     }
 }
 
+TEST(ParameterTypes, StandInTheOrderOfTheirCodes) {
+    for (std::size_t index = 0; index < parameterTypes.size(); ++index) {
+        EXPECT_EQ(parameterTypes[index].code, static_cast<std::int32_t>(index));
+    }
+}
+
+TEST(ParameterTypes, AreReadableWhereTheirDefaultsAreReadBack) {
+    for (const ParameterType& type : parameterTypes) {
+        const bool isReadable = type.name != "double" && type.name != "string" &&
+                                type.name != "list" &&
+                                (type.name == "float texture" || !type.name.ends_with(" texture"));
+        EXPECT_EQ(type.isReadable, isReadable) << type.name;
+    }
+}
+
+TEST(FindElementType, IsNullForWhatIsNoListOfOneType) {
+    for (const std::int32_t kind : {-1, 1, 12, 100 + 2, 100 + 12, 10000}) {
+        EXPECT_EQ(findElementType(kind), nullptr) << kind;
+    }
+    EXPECT_EQ(findElementType(105)->name, "color");
+}
+
 }  // namespace
 }  // namespace metagen

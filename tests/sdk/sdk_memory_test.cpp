@@ -5,6 +5,7 @@
 #include "sdk/entry_point_table.h"
 #include "sdk/exceptions.h"
 #include "sdk/fake_sdk.h"
+#include "sdk/parameter_type.h"
 
 namespace metagen {
 namespace {
@@ -41,7 +42,7 @@ TEST(SdkMemory, AVectorIsReleasedHoweverItsReadingEnds) {
 TEST(SdkMemory, AValueFreesItsText) {
     FakeSdk sdk;
     SdkValue value;
-    value.raw.kind = qyra_kind::text;
+    value.raw.kind = type_code::string;
     value.raw.text = sdk.allocateText("t");
 }
 
@@ -58,7 +59,7 @@ TEST(SdkMemory, AValueFreesTheElementsOfEveryListKind) {
 TEST(SdkMemory, ATextListFreesItsTextsToo) {
     FakeSdk sdk;
     SdkValue value;
-    value.raw.kind = qyra_kind::textList;
+    value.raw.kind = listCodeOf(type_code::string);
     value.raw.count = 3;
     value.raw.elements =
         sdk.allocateArray<char*>({sdk.allocateText("a"), nullptr, sdk.allocateText("b")});
@@ -67,14 +68,14 @@ TEST(SdkMemory, ATextListFreesItsTextsToo) {
 TEST(SdkMemory, AGenericListFreesNestedValues) {
     FakeSdk sdk;
     QyraValue text = {};
-    text.kind = qyra_kind::text;
+    text.kind = type_code::string;
     text.text = sdk.allocateText("inner");
     QyraValue inner = {};
-    inner.kind = qyra_kind::genericList;
+    inner.kind = type_code::list;
     inner.count = 1;
     inner.elements = sdk.allocateArray<QyraValue>({text});
     SdkValue value;
-    value.raw.kind = qyra_kind::genericList;
+    value.raw.kind = type_code::list;
     value.raw.count = 2;
     value.raw.elements = sdk.allocateArray<QyraValue>({inner, QyraValue{}});
 }
@@ -82,7 +83,7 @@ TEST(SdkMemory, AGenericListFreesNestedValues) {
 TEST(SdkMemory, AListWithoutAnArrayHasNoElements) {
     FakeSdk sdk;
     SdkValue value;
-    value.raw.kind = qyra_kind::genericList;
+    value.raw.kind = type_code::list;
     value.raw.count = 4;
     value.raw.elements = nullptr;
     EXPECT_TRUE(elementsOf<QyraValue>(value.raw).empty());
