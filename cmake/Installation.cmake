@@ -7,18 +7,22 @@ if(METAGEN_MANUAL)
     install(FILES "${METAGEN_MANUAL_FOLDER}/manual.html" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 endif()
 if(METAGEN_MANUAL AND NOT WIN32)
-    # The report tool is described in the same page.
-    file(WRITE "${METAGEN_MANUAL_FOLDER}/metagen-report.1" ".so man1/metagen.1\n")
-    install(FILES "${METAGEN_MANUAL_FOLDER}/metagen.1" "${METAGEN_MANUAL_FOLDER}/metagen-report.1"
-        DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+    install(FILES "${METAGEN_MANUAL_FOLDER}/metagen.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+    foreach(tool IN ITEMS metagen-report metagen-show)  # described in the same page
+        file(WRITE "${METAGEN_MANUAL_FOLDER}/${tool}.1" ".so man1/metagen.1\n")
+        install(FILES "${METAGEN_MANUAL_FOLDER}/${tool}.1"
+            DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+    endforeach()
 endif()
 if(NOT WIN32)
-    install(FILES completions/metagen.bash
-        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME metagen)
+    foreach(command IN ITEMS metagen metagen-show)  # bash looks for a file of each one's name
+        install(FILES completions/metagen.bash RENAME ${command}
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
+    endforeach()
     install(FILES completions/_metagen DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
 endif()
 
-install(PROGRAMS tools/metagen-report DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(PROGRAMS tools/metagen-report tools/metagen-show DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(DIRECTORY tools/metagen_report DESTINATION "${CMAKE_INSTALL_DATADIR}/metagen"
     FILES_MATCHING PATTERN "*.py" PATTERN "*.css" PATTERN "*.js" PATTERN __pycache__ EXCLUDE)
 

@@ -31,7 +31,7 @@ else()
     set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
     set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
     set(CPACK_DEBIAN_PACKAGE_SECTION devel)
-    set(CPACK_DEBIAN_PACKAGE_DEPENDS "python3")  # metagen-report
+    set(CPACK_DEBIAN_PACKAGE_DEPENDS "python3")  # the tools beside metagen
     set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
     set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS OFF)
     set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/packing/finish_deb.cmake")

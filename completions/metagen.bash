@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # Completion of metagen's command line for bash: commands, the options that each takes and that are
-# not given yet, and the files that fit them. Needs no package beyond bash.
+# not given yet, and the files that fit them; and of metagen-show's. Needs no package beyond bash.
 
 # Fills COMPREPLY with the files named like the word that fit the pattern, and with folders.
 _metagen_files() {
@@ -52,3 +52,4 @@ _metagen() {
 }
 
 complete -F _metagen metagen
+complete -o filenames -o plusdirs -f -X '!*.bin' metagen-show

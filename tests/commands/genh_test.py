@@ -1,16 +1,17 @@
 """The command genh: both outputs, and the ends of a run that can't go on."""
 
 import json
-import pathlib
+import runpy
 import sys
 import unittest
 
-from harness import ABORTED, FAILURE, GOLDEN, LAUNCHER, CommandTest, native
+from harness import ABORTED, FAILURE, GOLDEN, LAUNCHER, ROOT, CommandTest, native
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "oracle"))
+sys.path.insert(0, str(ROOT / "tests" / "oracle"))
 import genh as oracle  # noqa: E402
-from dump_bin import listing  # noqa: E402
 from random_combined import random_combined  # noqa: E402
+
+listing = runpy.run_path(str(ROOT / "tools" / "metagen-show"))["listing"]
 
 INPUT_NOT_OPENED = "Could not open the file - %s"
 INL_NOT_OPENED = "Could not open the INL output file"

@@ -1,5 +1,6 @@
 """The command genm: its order of checks, its messages, what a failing run leaves, its outputs."""
 
+import runpy
 import sys
 import unittest
 
@@ -7,7 +8,8 @@ from harness import ABORTED, BROKEN_METADATA, FAILURE, GOLDEN, ROOT, CommandTest
 
 sys.path.insert(0, str(ROOT / "tests" / "oracle"))
 import genm as oracle  # noqa: E402
-from dump_bin import listing  # noqa: E402
+
+listing = runpy.run_path(str(ROOT / "tools" / "metagen-show"))["listing"]
 
 ARGUMENTS = ["genm", "-i", "combined.json", "-o", "code"]
 

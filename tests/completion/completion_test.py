@@ -10,7 +10,7 @@ from shell import COMPLETIONS, Shell
 
 # Lines and what the Tab key makes of them, in a folder with the files below.
 FILES = ("base.json", "combined.json", "my stripped.json", "notes.txt", "tables.inl", "tables.bin",
-         "sub/inner.json", "sub/inner.txt", "sub/parts.inl")
+         "sub/inner.json", "sub/inner.txt", "sub/parts.inl", "sub/parts.bin")
 LINES = {
     "metagen du": "metagen dump ",
     "metagen DU": "metagen dump ",
@@ -35,6 +35,8 @@ LINES = {
     "metagen genh -o t": "metagen genh -o tables ",
     "metagen genm -o sub/p": "metagen genm -o sub/parts ",
     "metagen genm -x t": "metagen genm -x t",
+    "metagen-show t": "metagen-show tables.bin ",
+    "metagen-show sub/p": "metagen-show sub/parts.bin ",
 }
 
 

@@ -1,4 +1,4 @@
-// Lists what a Kaitai Struct reader made of a .bin file, in the form of tests/oracle/dump_bin.py.
+// Lists what a Kaitai Struct reader made of a .bin file, in the form of tools/metagen-show.
 "use strict";
 
 const HANDLER_KINDS = { 1: "Float", 2: "Color", 6: "Duplicate" };

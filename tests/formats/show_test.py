@@ -1,13 +1,17 @@
-"""Holds the listing of .bin files to literals: every field of both formats, and files that are
-wrong."""
+"""Holds what metagen-show makes of .bin files to literals: every field of both formats, and files
+that are wrong."""
 
 import pathlib
+import runpy
 import struct
+import subprocess
 import sys
+import tempfile
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "oracle"))
-from dump_bin import BadFile, listing  # noqa: E402
+TOOL = pathlib.Path(__file__).resolve().parents[2] / "tools" / "metagen-show"
+SHOW = runpy.run_path(str(TOOL))
+BadFile, listing = SHOW["BadFile"], SHOW["listing"]
 
 
 def file_of(*parts):
@@ -174,6 +178,39 @@ class WrongFiles(unittest.TestCase):
                                 f"at byte 44: {descriptor} is no descriptor")
         self.assert_refused(file_of(b"META", 1, 0, 0, 0, 1, 0, 1, 0, 1, 1, b"\0", 1, 0, 1, 264),
                             "at byte 61: 264 is no tag of a condition's value")
+
+
+class CommandLine(unittest.TestCase):
+    def run_tool(self, content):
+        """Its status and both outputs for a file of that content."""
+        with tempfile.TemporaryDirectory(prefix="metagen-test-") as folder:
+            if content is not None:
+                pathlib.Path(folder, "t.bin").write_bytes(content)
+            run = subprocess.run([sys.executable, TOOL, "t.bin"], cwd=folder, text=True,
+                                 capture_output=True, check=False)
+        return run.returncode, run.stdout, run.stderr
+
+    def test_a_table(self):
+        table = file_of(*META)
+        self.assertEqual((0, listing(table), ""), self.run_tool(table))
+
+    def test_what_is_no_table(self):
+        self.assertEqual((1, "", "metagen-show: t.bin: at byte 12: 1 bytes to spare\n"),
+                         self.run_tool(file_of(b"HDLR", 1, 0) + b"\0"))
+
+    def test_what_is_not_there(self):
+        self.assertEqual((1, "", "metagen-show: t.bin: No such file or directory\n"),
+                         self.run_tool(None))
+
+    def test_a_reader_that_has_seen_enough(self):
+        table = file_of(b"META", 1, 0, 1, 0, 100_000) + 100_000 * file_of(0) + file_of(0, 0)
+        with tempfile.NamedTemporaryFile(suffix=".bin") as file:
+            file.write(table)
+            file.flush()
+            shown = subprocess.run(f"{sys.executable} {TOOL} {file.name} | head -n 1; "
+                                   'echo "${PIPESTATUS[0]}"', shell=True, executable="/bin/bash",
+                                   text=True, capture_output=True, check=True)
+        self.assertEqual(("tag META\n0\n", ""), (shown.stdout, shown.stderr))
 
 
 if __name__ == "__main__":
