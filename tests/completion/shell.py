@@ -2,14 +2,10 @@
 
 import os
 import pathlib
-import pty
-import select
-import signal
-import time
+
+import pexpect
 
 COMPLETIONS = pathlib.Path(__file__).resolve().parents[2] / "completions"
-
-_WAIT_SECONDS = 120
 
 # Control-T shows the line as it stands, between marks. The marks are put together by the shell, so
 # that the echo of these lines doesn't look like an answer.
@@ -36,40 +32,25 @@ class Shell:
     """Use it in a with statement."""
 
     def __init__(self, name, folder):
-        self._command, self._setup = _SHELLS[name]
-        self._folder = folder
+        command, setup = _SHELLS[name]
+        self._terminal = pexpect.spawn(
+            command[0], command[1:], cwd=folder, encoding="utf-8", timeout=120,
+            env={"PATH": os.environ["PATH"], "TERM": "dumb", "PS1": "", "HOME": str(folder),
+                 "LANG": "C.UTF-8"})
+        self._terminal.delaybeforesend = None
+        self._terminal.send(setup + "echo 're''ady'\n")
+        self._terminal.expect_exact("ready")
 
     def __enter__(self):
-        self._process, self._terminal = pty.fork()
-        if self._process == 0:
-            os.chdir(self._folder)
-            environment = {"PATH": os.environ["PATH"], "TERM": "dumb", "PS1": "",
-                           "HOME": str(self._folder), "LANG": "C.UTF-8"}
-            os.execvpe(self._command[0], self._command, environment)
-        self._send(self._setup + "echo 're''ady'\n")
-        self._read_until("ready")
         return self
 
     def __exit__(self, *_):
-        os.kill(self._process, signal.SIGKILL)
-        os.waitpid(self._process, 0)
-        os.close(self._terminal)
-
-    def _send(self, text):
-        os.write(self._terminal, text.encode())
-
-    def _read_until(self, end):
-        """What the terminal shows, up to the end."""
-        text, deadline = "", time.monotonic() + _WAIT_SECONDS
-        while end not in text:
-            if not select.select([self._terminal], [], [], deadline - time.monotonic())[0]:
-                raise TimeoutError(text)
-            text += os.read(self._terminal, 65536).decode("utf-8", "replace")
-        return text.partition(end)[0]
+        self._terminal.close(force=True)
 
     def complete(self, line):
         """The line after the Tab key was pressed at its end."""
-        self._send(f"{line}\t\x14")
-        shown = self._read_until(">>")
-        self._send("\x15")
+        self._terminal.send(f"{line}\t\x14")
+        self._terminal.expect_exact(">>")
+        shown = self._terminal.before
+        self._terminal.send("\x15")
         return shown.rpartition("<<")[2]
