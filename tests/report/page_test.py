@@ -8,6 +8,8 @@ import sys
 import tempfile
 import unittest
 
+from selenium.webdriver.common.keys import Keys
+
 from browser import Browser
 from summary_text import SUMMARY
 
@@ -156,18 +158,18 @@ class PageTest(unittest.TestCase):
         self.filter("lamp COLOR")
         self.assertEqual([("Lamp", ["color"])], names(self.shown()))
         self.assertEqual("1 of 9 entries", self.text("#shown"))
-        self.browser.press("Escape")
+        self.browser.press(Keys.ESCAPE)
         self.assertEqual(names(SHOWN), names(self.shown()))
         self.filter("colortexframe")
         self.assertEqual([("Lamp", ["color"])], names(self.shown()))
-        self.browser.press("Escape")
+        self.browser.press(Keys.ESCAPE)
         self.filter("nowhere")
         self.assertEqual([], self.shown())
         self.assertEqual("Nothing fits the filter.", self.text("#nothing"))
 
     def test_the_slash_key_leads_to_the_filter(self):
         self.open(self.make_page(LEFT, RIGHT))
-        self.browser.press("/", text="/")
+        self.browser.press("/")
         self.browser.type("size")
         self.assertEqual([("Gone", ["size"])], names(self.shown()))
 
