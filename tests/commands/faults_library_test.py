@@ -1,18 +1,16 @@
-"""Faults of the SDK's library: what is missing, what is no library, and what it answers wrongly."""
+"""Faults of the SDK's library: what is no library, and what it answers wrongly."""
 
 import json
 import sys
 import unittest
 
-from harness import (ABORTED, BROKEN_METADATA, FAILURE, LAUNCHER, LOAD_FAILURE, REPLAY_SDK, ROOT,
-                     USAGE, WINDOWS, CommandTest, Run, native, text_bytes)
+from harness import (ABORTED, BROKEN_METADATA, FAILURE, LAUNCHER, LOAD_FAILURE, ROOT, USAGE,
+                     WINDOWS, CommandTest, native, text_bytes)
+from sdk_library import LIBRARY, LIBRARY_NAME
 
 sys.path.insert(0, str(ROOT / "tests" / "oracle"))
 from random_catalogue import random_catalogue  # noqa: E402
 
-LIBRARY_NAME = "QyraSDKLibrary.dll" if WINDOWS else "libQyraSDKLibrary.so"
-LIBRARY = REPLAY_SDK / "bin" / LIBRARY_NAME
-VARIANTS = REPLAY_SDK.parent / "sdk_missing"
 NO_RENDERER = "Instantiation error.\n"
 EMPTY_DOCUMENT = '{"plugins":{}}'
 EMPTY_SUMMARY = """\
@@ -28,23 +26,6 @@ Number of deprecations: 0
 
 Number of duplications: 0
 """
-
-
-class MissingEntryPoints(CommandTest):
-    def reason(self, name):
-        if not WINDOWS:
-            return f"{VARIANTS}/{name}/bin/{LIBRARY_NAME}: undefined symbol: {name}"
-        return "Procedure not found." if LAUNCHER else "The specified procedure could not be found."
-
-    def test_each_is_named(self):
-        names = sorted(path.name for path in VARIANTS.iterdir())
-        self.assertEqual(28, len(names))
-        for name in names:
-            with self.subTest(name=name):
-                self.assert_run(["dump", "-o", "base.json"], status=FAILURE,
-                                stdout=f"{name} [{self.reason(name)}]\n",
-                                environment={"QYRA_SDK": VARIANTS / name})
-        self.assert_files()
 
 
 class NoLibrary(CommandTest):

@@ -3,11 +3,9 @@
 import shutil
 import unittest
 
-from harness import (FAILURE, LAUNCHER, LOAD_FAILURE, REPLAY_SDK, TEST_LIBRARIES, WINDOWS,
-                     CommandTest)
+from harness import FAILURE, LAUNCHER, LOAD_FAILURE, TEST_LIBRARIES, WINDOWS, CommandTest
+from sdk_library import ENTRY_POINTS, LIBRARY, LIBRARY_NAME, library_without, missing_message
 
-LIBRARY_NAME = "QyraSDKLibrary.dll" if WINDOWS else "libQyraSDKLibrary.so"
-LIBRARY = REPLAY_SDK / "bin" / LIBRARY_NAME
 SEPARATOR = "\\" if WINDOWS else "/"
 
 
@@ -118,16 +116,19 @@ class LoadingTest(CommandTest):
         self.assert_loads_nothing()
 
     def test_a_missing_entry_point_is_named(self):
-        name = "Qyra_QyraRenderer_getPluginTypeIdByID"
-        root = REPLAY_SDK.parent / "sdk_missing" / name
-        if not WINDOWS:
-            reason = f"{root}/bin/{LIBRARY_NAME}: undefined symbol: {name}"
-        elif LAUNCHER:
-            reason = "Procedure not found."
-        else:
-            reason = "The specified procedure could not be found."
-        self.assert_run(["frobnicate"], status=FAILURE, stdout=f"{name} [{reason}]\n",
-                        environment={"QYRA_SDK": root})
+        for name in ENTRY_POINTS:
+            with self.subTest(name=name):
+                library = self.write(f"bin/{LIBRARY_NAME}", library_without(name))
+                self.assert_run(["dump", "-o", "base.json"], status=FAILURE,
+                                stdout=missing_message(library, name),
+                                environment={"QYRA_SDK": self.folder})
+        self.assert_files(f"bin/{LIBRARY_NAME}")
+
+    def test_it_is_named_before_the_command_is_looked_at(self):
+        library = self.write(f"bin/{LIBRARY_NAME}", library_without(ENTRY_POINTS[-1]))
+        self.assert_run(["frobnicate"], status=FAILURE,
+                        stdout=missing_message(library, ENTRY_POINTS[-1]),
+                        environment={"QYRA_SDK": self.folder})
 
     def test_libraries_that_the_library_needs_are_found_beside_it(self):
         # It has no entry points: that the first is missed shows that it was loaded.

@@ -10,7 +10,7 @@ namespace {
 
 void anyFunction() {}
 
-TEST(EntryPointTable, NamesThe28EntryPointsInTheirOrder) {
+TEST(EntryPointTable, NamesTheEntryPointsInTheirOrder) {
     std::vector<std::string> names;
     EntryPointTable table;
     const char* missing = fillEntryPoints(table, [&](const char* name) {
