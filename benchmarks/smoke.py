@@ -9,6 +9,7 @@ from workbench import ROOT, Failure
 
 # What the commands must make of documents, reckoned without the tool.
 sys.path.append(str(ROOT / "tests" / "oracle"))
+import base_document  # noqa: E402
 import combine  # noqa: E402
 import diff  # noqa: E402
 import genh  # noqa: E402
@@ -43,6 +44,7 @@ def check_extent(bench):
 
 def check_dump(bench):
     base = read(bench.path("base.json"))
+    check(base_document.base_document(document(bench, "base.json")) == base, "base.json")
     check_file(bench, "dump.json", base)
     check_file(bench, "copy.json", base)
 

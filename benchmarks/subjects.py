@@ -103,9 +103,8 @@ def genm(bench):
 def start(bench):
     """The work is as small as it gets: what is left is the start."""
     bench.path("empty.json").write_text('{"version":1,"plugins":{}}', encoding="utf-8")
-    library = next((bench.sdk / "bin").iterdir())
     return Subject("start", generator(bench, "genh", "empty.json", "empty"),
-                   Program([bench.program("floor_start"), library]))
+                   Program([bench.program("floor_start"), bench.library]))
 
 
 SUBJECTS = {"parse": parse, "dump": dump, "combine": combine, "diff": diff, "genh": genh, "genm": genm,

@@ -1,9 +1,12 @@
 """Where the benchmarks' programs and documents are, and how the programs are run."""
 
 import dataclasses
+import json
 import os
 import pathlib
 import subprocess
+
+from stripped_document import stripped_document
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
 
@@ -33,6 +36,7 @@ class Workbench:
         self.folder = pathlib.Path(folder) / f"{scale:g}"
         self.metagen = self.build / "metagen"
         self.sdk = self.build / "benchmarks" / "sdk"
+        self.library = next((self.sdk / "bin").iterdir())
         self.environment = {
             "PATH": os.environ["PATH"], "LANG": "C.UTF-8", "QYRA_SDK": str(self.sdk),
             "QYRA_INVENTED_SCALE": f"{scale:g}", "QYRA_INVENTED_SEED": str(seed)}
@@ -45,10 +49,16 @@ class Workbench:
         return self.folder / name
 
     def make_documents(self, *, combined=True):
-        """base.json, revised.json and stripped.json, and combined.json, which the tool makes."""
+        """base.json and revised.json, which the tool dumps, stripped.json, and combined.json."""
         self.folder.mkdir(parents=True, exist_ok=True)
-        if not self._stands("stripped.json", self.program("make_documents")):
-            self.run([self.program("make_documents"), f"{self.scale:g}", self.seed, self.folder])
+        if not self._stands("stripped.json", self.metagen, self.library):
+            self.run([self.metagen, "dump", "-o", self.path("base.json")])
+            self.run([self.metagen, "dump", "-o", self.path("revised.json")],
+                     environment={"QYRA_INVENTED_REVISION": "2"})
+            base = json.loads(self.path("base.json").read_bytes())
+            self.path("stripped.json").write_text(
+                json.dumps(stripped_document(base, self.seed), indent=2, ensure_ascii=False),
+                encoding="utf-8")
         if combined and not self._stands("combined.json", self.metagen, self.path("stripped.json")):
             self.run([self.metagen, "combine", "-i", self.path("stripped.json"),
                       "-o", self.path("combined.json")])

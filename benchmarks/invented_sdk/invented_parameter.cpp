@@ -258,30 +258,6 @@ InventedParameter inventParameter(Dice dice) {
     return parameter;
 }
 
-replay::DefaultValue inventValue(std::int32_t tag, std::int32_t elementTag, Dice& dice) {
-    switch (tag) {
-        case kind::integer: return {tag, inventInteger(dice)};
-        case kind::single: return {tag, inventFloat(dice)};
-        case kind::real: return {tag, static_cast<double>(inventFloat(dice))};
-        case kind::boolean: return {tag, static_cast<std::uint8_t>(dice.below(2))};
-        case kind::string: return {tag, inventText(dice)};
-        case kind::plugin: return {tag, inventReference(dice)};
-        case kind::integerList: return {tag, inventElements<std::int32_t>(dice, inventInteger)};
-        case kind::stringList: return {tag, inventElements<replay::Text>(dice, inventText)};
-        case kind::pluginList:
-            return {tag, inventElements<replay::PluginReference>(dice, inventReference)};
-        case kind::list:
-            return {tag, inventElements<replay::DefaultValue>(dice, [elementTag](Dice& again) {
-                        return inventValue(elementTag, 0, again);
-                    })};
-        case kind::floatList:
-        case kind::vectorList:
-        case kind::colorList:
-        case kind::transformList: return {tag, inventFloats(tag, 1 + dice.below(14), dice)};
-        default: return {tag, inventFloats(tag, 1, dice)};
-    }
-}
-
 replay::PluginInstance inventInstance(std::int64_t pluginId) {
     replay::PluginInstance instance;
     instance.name = "library/shared_texture_" + std::to_string(pluginId);

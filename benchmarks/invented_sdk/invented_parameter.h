@@ -19,9 +19,6 @@ struct InventedParameter {
 
 InventedParameter inventParameter(Dice dice);
 
-/// A default value with this tag; a generic list has elements with elementTag.
-replay::DefaultValue inventValue(std::int32_t tag, std::int32_t elementTag, Dice& dice);
-
 /// The instances that references name have the ids from 1 to this number.
 inline constexpr std::int64_t instanceCount = 40;
 

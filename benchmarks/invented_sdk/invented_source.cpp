@@ -52,7 +52,7 @@ private:
     mutable std::optional<std::size_t> current;
     mutable InventedParameter currentParameter;
     mutable std::size_t askedClass = 0;
-    mutable std::vector<std::string> namesOfAskedClass;
+    mutable std::vector<invented::ListedParameter> listed;  ///< of the asked class
     mutable std::size_t nextPosition = 0;  ///< callers ask in the order of the names
 };
 
@@ -84,23 +84,19 @@ std::uint64_t InventedSource::categories(std::string_view typeText) const {
 
 std::optional<TextVector> InventedSource::parameterNames(std::string_view typeText) const {
     askedClass = invented::classNumber(typeText);
-    namesOfAskedClass.clear();
+    listed = sdk.parametersOf(askedClass);
     nextPosition = 0;
     TextVector texts;
-    const std::size_t end = sdk.firstParameter(askedClass + 1);
-    for (std::size_t number = sdk.firstParameter(askedClass); number < end; ++number) {
-        namesOfAskedClass.push_back(sdk.parameterName(number));
-        texts.append(namesOfAskedClass.back());
-    }
+    for (const auto& parameter : listed) texts.append(parameter.name);
     return texts;
 }
 
 std::optional<std::size_t> InventedSource::parameter(std::string_view typeText,
                                                      std::string_view name) const {
     if (invented::classNumber(typeText) != askedClass) return std::nullopt;
-    for (std::size_t tried = 0; tried < namesOfAskedClass.size(); ++tried) {
-        const std::size_t position = nextPosition++ % namesOfAskedClass.size();
-        if (namesOfAskedClass[position] == name) return sdk.firstParameter(askedClass) + position;
+    for (std::size_t tried = 0; tried < listed.size(); ++tried) {
+        const auto& next = listed[nextPosition++ % listed.size()];
+        if (next.name == name) return next.number;
     }
     return std::nullopt;
 }
@@ -135,7 +131,8 @@ Number numberOfVariable(const char* name, Number otherwise) {
 std::unique_ptr<AnswerSource> openAnswerSource() {
     return std::make_unique<InventedSource>(
         invented::Extent{numberOfVariable("QYRA_INVENTED_SCALE", 1.0),
-                         numberOfVariable("QYRA_INVENTED_SEED", std::uint64_t{1})});
+                         numberOfVariable("QYRA_INVENTED_SEED", std::uint64_t{1}),
+                         numberOfVariable("QYRA_INVENTED_REVISION", 1)});
 }
 
 }  // namespace metagen::replay
