@@ -41,10 +41,12 @@ ensure_packages() {
         return 1
     fi
     printf 'Installing %s\n' "${missing[*]}"
+    # Nothing waits for minutes on what isn't there.
+    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -o Acquire::Retries=2
+        -o Acquire::http::Timeout=10 -o Acquire::https::Timeout=10)
     # A source of packages that can't be reached may well be one that none of these comes from.
-    quietly apt-update "${as_root[@]}" apt-get -o Acquire::Retries=3 update || true
-    quietly apt-install "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get -o Acquire::Retries=3 -o DPkg::Lock::Timeout=300 \
+    quietly apt-update "${as_root[@]}" "${apt[@]}" update || true
+    quietly apt-install "${as_root[@]}" "${apt[@]}" -o DPkg::Lock::Timeout=300 \
         install --yes --no-install-recommends "${missing[@]}"
 }
 
