@@ -50,7 +50,9 @@ def floor(bench, work, documents, *outputs):
 
 
 def limit(bench, *documents):
-    return Program([bench.program("limit"), *map(bench.path, documents)])
+    """None where the program was not built."""
+    program = bench.program("limit")
+    return Program([program, *map(bench.path, documents)]) if program.exists() else None
 
 
 def parse(bench):
