@@ -23,25 +23,25 @@ from metagen_report.summary import UnreadableSummary, read_summary  # noqa: E402
 
 SUMMARY_REPORT = Report(
     "What combine found: s.txt", "SDK", "stripped document", ["Lamp has an odd default"],
-    [Group("removed", "Gone", "", [
-        Entry("removed", "", "", [Row("", note="plugin removed")])]),
-     Group("changed", "Lamp", "", [
-         Entry("changed", "", "", [Row("type", "light", "node")]),
-         Entry("changed", "", "size", [Row("type", "float", "integer"),
-                                       Row("defaultValue", "1", "2")]),
-         Entry("changed", "", "color", [
-             Row("defaultValue", "Color(1, 1, 1)", 'a  "b" -> "c"')]),
-         Entry("failed", "", "color", [Row("", note="_tex_* user data is missing")]),
-         Entry("failed", "", "", [
-             Row("", note="the plugin has float texture handler(s) but no"
-                          " 'texture_multiplier_mode' \"")]),
-         Entry("removed", "", "old", [Row("", note="parameter removed")]),
-         Entry("duplicated", "", "", [Row("type", "light", "light")]),
-         Entry("duplicated", "", "size", [Row("defaultValue", "1", "1")])]),
-     Group("added", "Own", "", [Entry("added", "", "", [Row("type", ABSENT, "light")])]),
-     Group("changed", "Two  blanks", "", [
+    [Group("Lamp", "", [
+        Entry("failed", "plugin", "", [
+            Row("", note="the plugin has float texture handler(s) but no"
+                         " 'texture_multiplier_mode' \"")]),
+        Entry("failed", "", "color", [Row("", note="_tex_* user data is missing")]),
+        Entry("changed", "plugin", "", [Row("type", "light", "node")]),
+        Entry("duplicated", "plugin", "", [Row("type", "light", "light")]),
+        Entry("changed", "", "color", [
+            Row("defaultValue", "Color(1, 1, 1)", 'a  "b" -> "c"')]),
+        Entry("removed", "", "old", []),
+        Entry("changed", "", "size", [Row("type", "float", "integer"),
+                                      Row("defaultValue", "1", "2")]),
+        Entry("duplicated", "", "size", [Row("defaultValue", "1", "1")])]),
+     Group("Gone", "", [Entry("removed", "plugin", "", [])]),
+     Group("Own", "", [Entry("added", "plugin", "", [Row("type", ABSENT, "light")])]),
+     Group("Two  blanks", "", [
          Entry("added", "", "new", [Row("defaultValue", ABSENT, "1")])]),
-     Group("duplicated", "Zoo", "", [Entry("duplicated", "", "a", [Row("type", "bool", "bool")])])])
+     Group("Zoo", "", [Entry("duplicated", "", "a", [Row("type", "bool", "bool")])])])
+
 
 def groups(left, right):
     return compare_documents(left, right, "l", "r").groups
@@ -52,34 +52,67 @@ def in_plugin(plugin):
 
 
 class ComparisonTest(unittest.TestCase):
+    def assert_entries(self, expected, left, right):
+        """The entries of the one plugin that differs."""
+        self.assertEqual([expected], [group.entries for group in
+                                      groups(in_plugin(left), in_plugin(right))])
+
     def test_numbers_are_equal_as_doubles_but_not_to_booleans(self):
         self.assertEqual([], groups({"a": [1, {"b": 2.0}]}, {"a": [1.0, {"b": 2}]}))
         entry = Entry("changed", "", "a", [Row("", 1, True)])
-        self.assertEqual([Group("changed", "", "", [entry])], groups({"a": 1}, {"a": True}))
+        self.assertEqual([Group("", "", [entry])], groups({"a": 1}, {"a": True}))
 
     def test_arrays_are_compared_whole(self):
-        self.assertEqual(
-            [Group("changed", "", "", [Entry("changed", "", "a", [Row("", [1, 2], [1])])])],
-            groups({"a": [1, 2]}, {"a": [1]}))
+        entry = Entry("changed", "", "a", [Row("", [1, 2], [1])])
+        self.assertEqual([Group("", "", [entry])], groups({"a": [1, 2]}, {"a": [1]}))
 
-    def test_an_empty_object_is_not_nothing(self):
-        self.assertEqual([Group("added", "A", "", [Entry("added", "", "", [Row("", ABSENT, {})])])],
-                         groups({"plugins": {}}, in_plugin({})))
+    def test_a_plugin_that_came_or_went_is_one_entry(self):
+        plugin = {"type": "light", "about": {"by": "me"}, "params": {"a": {"type": "bool"}},
+                  "userData": {"a_tex": {"type": "texture"}}}
+        rows = [("type", "light"), ("about.by", "me")]
+        self.assertEqual(
+            [Group("A", "light", [Entry(
+                "removed", "plugin", "", [Row(key, value, ABSENT) for key, value in rows],
+                [Entry("removed", "", "a", [Row("type", "bool", ABSENT)]),
+                 Entry("removed", "user data", "a_tex", [Row("type", "texture", ABSENT)])])])],
+            groups(in_plugin(plugin), {"plugins": {}}))
+
+    def test_what_is_null_or_empty_in_such_a_plugin_says_nothing(self):
+        entry = Entry("added", "plugin", "", [])
+        for plugin in ({}, {"type": None, "params": {}}):
+            self.assertEqual([Group("A", "", [entry])],
+                             groups({"plugins": {}}, in_plugin(plugin)))
+
+    def test_an_empty_object_in_a_plugin_is_not_nothing(self):
         self.assertEqual([], groups(in_plugin({"params": {}}), in_plugin({"params": {}})))
+        self.assert_entries([Entry("added", "plugin", "params", [Row("", ABSENT, {})])],
+                            {}, {"params": {}})
 
     def test_a_null_of_a_stripped_document_is_a_value(self):
-        entry = Entry("changed", "", "p", [Row("", {"type": "bool"}, None)])
-        self.assertEqual([Group("changed", "A", "", [entry])],
-                         groups(in_plugin({"params": {"p": {"type": "bool"}}}),
-                                in_plugin({"params": {"p": None}})))
+        self.assert_entries([Entry("changed", "", "p", [Row("", {"type": "bool"}, None)])],
+                            {"params": {"p": {"type": "bool"}}}, {"params": {"p": None}})
+        self.assert_entries([Entry("changed", "plugin", "", [Row("", {}, None)])], {}, None)
 
     def test_keys_below_a_key_are_named_with_it(self):
         def plugin(unit):
             return {"type": "light", "userData": {"u": {"scaling": {"unit": unit}}}}
 
         entry = Entry("changed", "user data", "u", [Row("scaling.unit", 1, 2)])
-        self.assertEqual([Group("changed", "A", "light", [entry])],
+        self.assertEqual([Group("A", "light", [entry])],
                          groups(in_plugin(plugin(1)), in_plugin(plugin(2))))
+
+    def test_user_data_of_a_handler_are_folded_into_its_parameter(self):
+        def added(name):
+            return Entry("added", "user data", name, [Row("", ABSENT, 1)])
+
+        params = {"a": {}, "b": {}, "c": {"type": "bool"}}
+        names = ["a_float", "a_tex", "a_tex_on", "b_color", "note", "x_tex"]
+        self.assert_entries(
+            [Entry("changed", "", "a", [], [added("a_float"), added("a_tex"), added("a_tex_on")]),
+             Entry("changed", "", "b", [Row("handler", ABSENT, "H")], [added("b_color")]),
+             added("note"), added("x_tex")],
+            {"params": params, "userData": {}},
+            {"params": params | {"b": {"handler": "H"}}, "userData": dict.fromkeys(names, 1)})
 
     def test_text_after_the_document_is_ignored(self):
         self.assertEqual({"a": 1}, parse_document(' {"a": 1} trailing', "x.json"))
@@ -119,9 +152,12 @@ class SummaryTest(unittest.TestCase):
 class PageTextTest(unittest.TestCase):
     def test_everything_from_the_documents_is_escaped(self):
         hostile = "<b>\"'&"
-        plugin = {"type": hostile, "params": {hostile: {hostile: hostile}}}
-        page = render_page(compare_documents(
-            {}, {hostile: [hostile], "plugins": {hostile: plugin}}, hostile, hostile))
+        plugin = {"type": hostile, "params": {hostile: {hostile: hostile}},
+                  "userData": {f"{hostile}_tex": hostile}}
+        document = {hostile: [hostile], "plugins": {hostile: plugin, "Own": plugin}}
+        report = compare_documents({"plugins": {hostile: {}}}, document, hostile, hostile)
+        report.notes = [hostile]
+        page = render_page(report)
         self.assertNotIn(hostile, page)
         self.assertNotIn("<b>\"", page)
         self.assertIn("&lt;b&gt;&quot;&#x27;&amp;", page)
@@ -214,14 +250,12 @@ class AgainstDiffTest(unittest.TestCase):
     def found(self, left, right):
         """The same of the report's groups, entries and rows."""
         for group in groups(left, right):
-            place = f":plugins:{group.name}" if group.name else ""
-            if group.kind in self.ONLY:
-                yield place, self.ONLY[group.kind]
-                continue
+            plugin = f":plugins:{group.name}" if group.name else ""
             for entry in group.entries:
-                section = {"": ":params", "user data": ":userData", "plugin": ""}[entry.section]
-                yield from self.found_in(entry, (place + section if group.name else place)
-                                         + f":{entry.name}")
+                for part in [entry, *entry.folded] if entry.name else [entry]:
+                    section = {"": ":params", "user data": ":userData", "plugin": ""}[part.section]
+                    name = f":{part.name}" if part.name else ""
+                    yield from self.found_in(part, plugin + (section if plugin else "") + name)
 
     def found_in(self, entry, place):
         if entry.kind in self.ONLY:
@@ -240,7 +274,8 @@ class AgainstDiffTest(unittest.TestCase):
             if number % 7 == 0:
                 del right["plugins"][name]
             if number % 5 == 0:
-                left["plugins"][name]["userData"] = {"note": {"type": "string"}}
+                folded = next(iter(left["plugins"][name]["params"]), "none") + "_tex"
+                left["plugins"][name]["userData"] = dict.fromkeys(("note", folded), {"type": "x"})
                 if name in right["plugins"]:
                     right["plugins"][name]["userData"] = {}
             if number % 6 == 0:

@@ -6,11 +6,16 @@ ignored.
 """
 
 import json
+import re
 
-from .report import ABSENT, Entry, Group, Report, Row, kind_of
+from .report import ABSENT, CHANGED, Entry, Group, Report, Row, kind_of
 
 # The objects of a plugin whose members have names of their own, and what those are called.
 _SECTIONS = {"params": "", "userData": "user data"}
+
+# The user data of a parameter's handler are named after the parameter.
+_OF_HANDLER = re.compile(
+    "(.+)_(?:tex|tex_on|tex_mult|res_mult|color|float|duplicate|duplicate_output)", re.DOTALL)
 
 
 class UnreadableDocument(Exception):
@@ -81,19 +86,57 @@ def _entry(section, name, left, right):
     return [Entry(kind_of(left, right), section, name, rows)] if rows else []
 
 
-def _plugin_entries(left, right):
-    if not _both_walkable(left, right):
-        return _entry("", "", left, right)
+def _own_entries(left, right):
+    """The entries of a plugin's own keys."""
     entries = []
-    for key in sorted(_keys(left, right), key=_SECTIONS.__contains__):
-        left_value, right_value = _member(left, key), _member(right, key)
-        if key not in _SECTIONS or not _both_walkable(left_value, right_value):
-            entries += _entry("plugin", key, left_value, right_value)
-            continue
-        for name in sorted(_keys(left_value, right_value)):
-            entries += _entry(_SECTIONS[key], name, _member(left_value, name),
-                              _member(right_value, name))
+    for key in _keys(left, right):
+        sides = _member(left, key), _member(right, key)
+        if key not in _SECTIONS or not _both_walkable(*sides):
+            entries += _entry("plugin", key, *sides)
     return entries
+
+
+def _named_entries(key, left, right):
+    """The entries of what has names below a plugin's key."""
+    sides = _member(left, key), _member(right, key)
+    entries = []
+    if _both_walkable(*sides):
+        for name in sorted(_keys(*sides)):
+            entries += _entry(_SECTIONS[key], name, *(_member(side, name) for side in sides))
+    return entries
+
+
+def _fold(parameters, user_data, names):
+    """The entries of parameters, with those of their handlers' user data folded into them, and of
+    other user data. The names are those of all parameters."""
+    entries, others = {entry.name: entry for entry in parameters}, []
+    for entry in user_data:
+        match = _OF_HANDLER.fullmatch(entry.name)
+        if match and match[1] in names:
+            owner = entries.setdefault(match[1], Entry(CHANGED, "", match[1], []))
+            owner.folded.append(entry)
+        else:
+            others.append(entry)
+    return [entries[name] for name in sorted(entries)] + others
+
+
+def _whole_plugin(kind, own, named):
+    """The one entry of a plugin that came or went. Keys that are null or empty say nothing."""
+    rows = [Row(f"{entry.name}.{row.key}".rstrip("."), row.left, row.right)
+            for entry in own for row in entry.rows
+            if not any(value is None or value == {} for value in (row.left, row.right))]
+    return [Entry(kind, "plugin", "", rows, named)]
+
+
+def _plugin_entries(left, right):
+    if not all(isinstance(side, dict) or side is ABSENT for side in (left, right)):
+        return _entry("plugin", "", left, right)
+    own = _own_entries(left, right)
+    parameters, user_data = (_named_entries(key, left, right) for key in _SECTIONS)
+    if left is ABSENT or right is ABSENT:
+        return _whole_plugin(kind_of(left, right), own, parameters + user_data)
+    names = _keys(_member(left, "params"), _member(right, "params"))
+    return own + _fold(parameters, user_data, names)
 
 
 def _category(*plugins):
@@ -114,16 +157,16 @@ def _groups(left, right):
         for name in sorted(_keys(left_plugins, right_plugins)):
             sides = _member(left_plugins, name), _member(right_plugins, name)
             if entries := _plugin_entries(*sides):
-                groups.append(Group(kind_of(*sides), name, _category(*reversed(sides)), entries))
+                groups.append(Group(name, _category(*reversed(sides)), entries))
     entries = []
     for key in sorted(own):
         entries += _entry("", key, _member(left, key), _member(right, key))
     if entries:
-        groups.insert(0, Group("changed", "", "", entries))
+        groups.insert(0, Group("", "", entries))
     return groups
 
 
 def compare_documents(left, right, left_name, right_name):
     """The report of what changed from the one document to the other."""
-    return Report(f"From {left_name} to {right_name}", left_name, right_name, [],
-                  _groups(left, right))
+    title = f"From {left_name} to {right_name}"
+    return Report(title, left_name, right_name, [], _groups(left, right))

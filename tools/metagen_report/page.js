@@ -1,37 +1,29 @@
 "use strict";
-// Filters the groups and their entries. The page reads without it, too.
+// Filters the plugins and their entries. The page reads without it, too.
 
 const filterBox = document.getElementById("filter");
 const kindBoxes = [...document.querySelectorAll("#kinds input")];
+const links = document.querySelectorAll("nav li");
 
-const groups = [...document.querySelectorAll("main > details")].map((element) => ({
-  element,
-  count: element.querySelector(".count"),
+const groups = [...document.querySelectorAll("main > details")].map((element, number) => ({
+  elements: [element, links[number]],
   name: element.querySelector(".name").textContent.toLowerCase(),
-  entries: [...element.querySelectorAll("tbody")].map((body) => ({
+  entries: [...element.querySelectorAll(":scope > table > tbody")].map((body) => ({
     element: body,
     kind: body.dataset.kind,
     text: body.textContent.toLowerCase(),
+    folded: body.querySelector("details"),
   })),
 }));
 
-// Every word must occur, in the group's name or in the entry.
+// Every word must occur, in the group's name or in the entry. What is folded opens for a word.
 function fits(group, entry, words, kinds) {
+  if (entry.folded) {
+    const text = entry.folded.textContent.toLowerCase();
+    entry.folded.open = words.some((word) => text.includes(word));
+  }
   return kinds.has(entry.kind) &&
     words.every((word) => group.name.includes(word) || entry.text.includes(word));
-}
-
-function filterGroup(group, words, kinds) {
-  let shown = 0;
-  for (const entry of group.entries) {
-    const visible = fits(group, entry, words, kinds);
-    entry.element.hidden = !visible;
-    shown += visible ? 1 : 0;
-  }
-  group.element.hidden = shown === 0;
-  group.count.textContent =
-    shown === group.entries.length ? `${shown}` : `${shown} of ${group.entries.length}`;
-  return shown;
 }
 
 function filter() {
@@ -40,21 +32,18 @@ function filter() {
   let shown = 0;
   let all = 0;
   for (const group of groups) {
-    shown += filterGroup(group, words, kinds);
+    for (const entry of group.entries) entry.element.hidden = !fits(group, entry, words, kinds);
+    const visible = group.entries.filter((entry) => !entry.element.hidden).length;
+    for (const element of group.elements) element.hidden = visible === 0;
+    shown += visible;
     all += group.entries.length;
   }
-  document.getElementById("shown").textContent = `${shown} of ${all} entries`;
+  document.getElementById("shown").textContent = `${shown} of ${all} entries shown`;
   document.getElementById("nothing").hidden = shown > 0 || all === 0;
-}
-
-function setOpen(open) {
-  for (const group of groups) group.element.open = open;
 }
 
 filterBox.addEventListener("input", filter);
 for (const box of kindBoxes) box.addEventListener("change", filter);
-document.getElementById("open").addEventListener("click", () => setOpen(true));
-document.getElementById("close").addEventListener("click", () => setOpen(false));
 document.addEventListener("keydown", (event) => {
   if (event.key === "/" && document.activeElement !== filterBox) {
     event.preventDefault();

@@ -1,14 +1,17 @@
-"""What a page shows: groups (plugins) of entries (parameters) of rows (keys and their values)."""
+"""What a page shows: groups (plugins) of entries (parameters) of rows (keys and their values).
+
+An entry is what is counted, everywhere: a plugin that is added or removed, a parameter with the
+user data of its handler, other user data, or a key of a plugin or of the document."""
 
 import dataclasses
 
 # The value of a row on the side that lacks it. Not None, which stands for a JSON null.
 ABSENT = object()
 
-# What happened to an entry or a group; the order in which the page offers them.
-ADDED, REMOVED, CHANGED = "added", "removed", "changed"
-DUPLICATED, FAILED = "duplicated", "failed"
-KINDS = (ADDED, REMOVED, CHANGED, DUPLICATED, FAILED)
+# What happened to an entry; the order in which the page shows them.
+FAILED, ADDED, REMOVED = "failed", "added", "removed"
+CHANGED, DUPLICATED = "changed", "duplicated"
+KINDS = (FAILED, ADDED, REMOVED, CHANGED, DUPLICATED)
 
 
 @dataclasses.dataclass
@@ -24,23 +27,24 @@ class Row:
 
 @dataclasses.dataclass
 class Entry:
-    """One parameter, or whatever else stands under a name, and what happened to it. The section
-    tells what the name is, where it is no parameter: "user data", or a key of the "plugin"."""
+    """What stands under a name, and what happened to it. The section tells what the name is, where
+    it is no parameter: "user data", or a key of the "plugin", whose empty name is the plugin
+    itself. The folded entries belong to this one and are not counted."""
 
     kind: str
     section: str
     name: str
     rows: list
+    folded: list = dataclasses.field(default_factory=list)
 
 
 @dataclasses.dataclass
 class Group:
     """One plugin; the empty name stands for the document's own keys."""
 
-    kind: str
     name: str
-    category: str = ""
-    entries: list = dataclasses.field(default_factory=list)
+    category: str
+    entries: list
 
 
 @dataclasses.dataclass

@@ -7,18 +7,6 @@ import re
 from .report import (ABSENT, ADDED, CHANGED, DUPLICATED, FAILED, REMOVED, Entry, Group, Report,
                      Row)
 
-# The headings as combine prints them, each with what its list holds. One has no blank before the
-# number, which is as combine has it.
-_HEADINGS = (
-    ("Number of changed plugin types: ", "plugin type"),
-    ("Changed parameter types: ", "type"),
-    ("Overriding defaultValue:", "defaultValue"),
-    ("Number of handler integrity checks failures: ", FAILED),
-    ("Number of deprecations: ", REMOVED),
-    ("Number of duplications: ", DUPLICATED),
-)
-
-
 class UnreadableSummary(Exception):
     """A text that is no summary of combine; the text says what is missing."""
 
@@ -41,17 +29,17 @@ def _read_list(text, position, count):
 
 
 def _read_lists(text):
-    """The messages before the lists, and for each list what it holds with its entries."""
+    """The messages before the lists, and for each list the reader of its entries with them."""
     first = re.search(f"^{re.escape(_HEADINGS[0][0])}[0-9]+$", text, re.MULTILINE)
     position = first.start() if first else 0
     messages = text[:position].splitlines()
     lists = []
-    for heading, holds in _HEADINGS:
+    for heading, reader in _HEADINGS:
         match = re.compile(rf"\n?{re.escape(heading)}([0-9]+)\n").match(text, position)
         if match is None:
             raise UnreadableSummary(f'the heading "{heading.rstrip()}" is missing')
         entries, position = _read_list(text, match.end(), int(match[1]))
-        lists.append((holds, entries))
+        lists.append((reader, entries))
     return messages, lists
 
 
@@ -80,25 +68,31 @@ def _split_name(text):
     return plugin, parameter
 
 
-def _change(holds, text):
-    name, old, new = _split_change(text)
-    kind = ADDED if old is ABSENT else CHANGED
-    if holds == "plugin type":
-        return name, Entry(kind, "", "", [Row("type", old, new)])
-    plugin, parameter = _split_name(name)
-    return plugin, Entry(kind, "", parameter, [Row(holds, old, new)])
+def _entry(kind, name, *rows):
+    """The entry of a parameter, or of the plugin itself when the name is empty."""
+    return Entry(kind, "" if name else "plugin", name, list(rows))
+
+
+def _change(key):
+    """The reader of a list of changes of a key."""
+
+    def read(text):
+        name, old, new = _split_change(text)
+        plugin, parameter = _split_name(name)
+        return plugin, _entry(ADDED if old is ABSENT else CHANGED, parameter, Row(key, old, new))
+
+    return read
 
 
 def _failure(text):
     name, _, message = text.partition(": ")
     plugin, parameter = _split_name(name)
-    return plugin, Entry(FAILED, "", parameter, [Row("", note=message)])
+    return plugin, _entry(FAILED, parameter, Row("", note=message))
 
 
 def _deprecation(text):
     plugin, parameter = _split_name(text)
-    note = "parameter removed" if parameter else "plugin removed"
-    return plugin, Entry(REMOVED, "", parameter, [Row("", note=note)])
+    return plugin, _entry(REMOVED, parameter)
 
 
 def _duplication(text):
@@ -109,46 +103,39 @@ def _duplication(text):
     value, end = _value_at(value_text, 0)
     if value is ABSENT or end != len(value_text):
         raise UnreadableSummary(f"no duplication: {text}")
-    return plugin, Entry(DUPLICATED, "", parameter, [Row(key, value, value)])
+    return plugin, _entry(DUPLICATED, parameter, Row(key, value, value))
 
 
-_READERS = {FAILED: _failure, REMOVED: _deprecation, DUPLICATED: _duplication}
+# The headings as combine prints them, each with what reads an entry of its list. One has no
+# blank before the number, which is as combine has it.
+_HEADINGS = (
+    ("Number of changed plugin types: ", _change("type")),
+    ("Changed parameter types: ", _change("type")),
+    ("Overriding defaultValue:", _change("defaultValue")),
+    ("Number of handler integrity checks failures: ", _failure),
+    ("Number of deprecations: ", _deprecation),
+    ("Number of duplications: ", _duplication),
+)
 
 
-class _Groups:
-    """The groups found so far. Rows of one parameter and kind stand together."""
-
-    def __init__(self):
-        self.groups = {}
-        self.entries = {}
-
-    def add(self, plugin, entry):
-        group = self.groups.setdefault(plugin, Group(CHANGED, plugin))
-        if not entry.name and entry.kind in (ADDED, REMOVED):
-            group.kind = entry.kind
-        present = self.entries.setdefault((plugin, entry.kind, entry.name), entry)
+def _groups(findings):
+    """The findings by plugin, failures first. Rows of one name and kind stand together."""
+    groups, entries = {}, {}
+    for plugin, entry in findings:
+        group = groups.setdefault(plugin, Group(plugin, "", []))
+        present = entries.setdefault((plugin, entry.kind, entry.name), entry)
         if present is entry:
             group.entries.append(entry)
         else:
             present.rows += entry.rows
-
-    def in_order(self):
-        for group in self.groups.values():
-            kinds = {entry.kind for entry in group.entries}
-            if kinds in ({DUPLICATED}, {FAILED}):
-                group.kind = kinds.pop()
-        return [self.groups[plugin] for plugin in sorted(self.groups)]
+    for group in groups.values():
+        group.entries.sort(key=lambda entry: (entry.kind != FAILED, entry.name))
+    return sorted(groups.values(), key=lambda group: (group.entries[0].kind != FAILED, group.name))
 
 
 def read_summary(text, name):
     """The report of a summary. The name is for its title."""
     messages, lists = _read_lists(text.replace("\r\n", "\n"))
-    groups = _Groups()
-    for holds, entries in lists:
-        for entry_text in entries:
-            if holds in _READERS:
-                groups.add(*_READERS[holds](entry_text))
-            else:
-                groups.add(*_change(holds, entry_text))
+    findings = [reader(entry) for reader, entries in lists for entry in entries]
     return Report(f"What combine found: {name}", "SDK", "stripped document", messages,
-                  groups.in_order())
+                  _groups(findings))
