@@ -1,5 +1,6 @@
 """metagen-report without a browser: what it finds, what it makes of a summary, its messages."""
 
+import html
 import json
 import os
 import pathlib
@@ -152,7 +153,8 @@ class SummaryTest(unittest.TestCase):
 class PageTextTest(unittest.TestCase):
     def test_everything_from_the_documents_is_escaped(self):
         hostile = "<b>\"'&"
-        plugin = {"type": hostile, "params": {hostile: {hostile: hostile}},
+        scaling = {"conditions": [{"op": 1, "ref": hostile, "value": 1}, hostile]}
+        plugin = {"type": hostile, "params": {hostile: {hostile: hostile, "scaling": scaling}},
                   "userData": {f"{hostile}_tex": hostile}}
         document = {hostile: [hostile], "plugins": {hostile: plugin, "Own": plugin}}
         report = compare_documents({"plugins": {hostile: {}}}, document, hostile, hostile)
@@ -161,6 +163,19 @@ class PageTextTest(unittest.TestCase):
         self.assertNotIn(hostile, page)
         self.assertNotIn("<b>\"", page)
         self.assertIn("&lt;b&gt;&quot;&#x27;&amp;", page)
+
+    def test_conditions_are_in_words(self):
+        def shown(*conditions):
+            sides = (in_plugin({"params": {"p": {"scaling": {"conditions": side}}}})
+                     for side in ([], [*conditions]))
+            page = render_page(compare_documents(*sides, "l", "r"))
+            return re.findall('<div class="value.*?>(.*?)</div>', page, re.DOTALL)[1:]
+
+        self.assertEqual(["when units = 0\nwhen on = 0.5"],
+                         shown({"op": 1, "ref": "units", "value": 0},
+                               {"op": 1, "ref": "on", "value": 0.5}))
+        for other in ({"op": 2, "ref": "a", "value": 0}, {"op": 1, "ref": "a"}, {"op": 1}, 7):
+            self.assertEqual([html.escape(json.dumps(other))], shown(other))
 
     def test_swatches_are_cut_to_what_can_be_shown(self):
         def swatch(text):

@@ -82,7 +82,16 @@ def _with_swatches(text):
     return "".join(pieces) + _text(text[position:])
 
 
-def _value(side, value):
+def _condition(condition):
+    """A condition of a scaling in words; as JSON when metagen wouldn't take it."""
+    if isinstance(condition, dict) and condition.get("op") == 1:
+        parameter, value = condition.get("ref"), condition.get("value")
+        if isinstance(parameter, str) and isinstance(value, (int, float)):
+            return f"when {parameter} = {json.dumps(value)}"
+    return json.dumps(condition, ensure_ascii=False)
+
+
+def _value(side, key, value):
     """A cell with a value: a text as it is, anything else as JSON."""
     if value is ABSENT:
         return f'<td class="{side} absent">—</td>'
@@ -90,6 +99,9 @@ def _value(side, value):
         content = _span("empty", "empty text")
     elif isinstance(value, str):
         content = f'<div class="value">{_with_swatches(value)}</div>'
+    elif key == "scaling.conditions" and isinstance(value, list) and value:
+        words = "\n".join(map(_condition, value))
+        content = f'<div class="value">{_text(words)}</div>'
     else:
         text = _with_swatches(json.dumps(value, ensure_ascii=False))
         content = f'<div class="value json">{text}</div>'
@@ -100,7 +112,7 @@ def _cells(row):
     if row.note:
         return f'<td class="key"></td><td class="note" colspan="2">{_escape(row.note)}</td>'
     return (f'<td class="key">{_text(row.key)}</td>'
-            + _value("left", row.left) + _value("right", row.right))
+            + _value("left", row.key, row.left) + _value("right", row.key, row.right))
 
 
 _NOTHING = '<td class="key"></td><td class="note" colspan="2"></td>'
