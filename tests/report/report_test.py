@@ -158,7 +158,7 @@ class PageTextTest(unittest.TestCase):
                   "userData": {f"{hostile}_tex": hostile}}
         document = {hostile: [hostile], "plugins": {hostile: plugin, "Own": plugin}}
         report = compare_documents({"plugins": {hostile: {}}}, document, hostile, hostile)
-        report.notes = [hostile]
+        report.notes, report.files = [hostile], [hostile]
         page = render_page(report)
         self.assertNotIn(hostile, page)
         self.assertNotIn("<b>\"", page)
@@ -205,7 +205,7 @@ class CommandTest(unittest.TestCase):
 
     def assert_run(self, *arguments, status=0, stderr=""):
         run = subprocess.run([sys.executable, TOOL, *arguments], cwd=self.folder, text=True,
-                             capture_output=True, check=False)
+                             env=os.environ | {"TZ": "UTC"}, capture_output=True, check=False)
         self.assertEqual((status, "", stderr), (run.returncode, run.stdout, run.stderr))
 
     def assert_refused(self, message, *arguments):
@@ -218,6 +218,20 @@ class CommandTest(unittest.TestCase):
         self.assert_run("-s", "summary.txt", "-o", "summary.html")
         self.assertIn("No differences.", (self.folder / "documents.html").read_text("utf-8"))
         self.assertIn("What combine found", (self.folder / "summary.html").read_text("utf-8"))
+
+    def test_the_head_names_the_files_with_their_dates_and_the_version(self):
+        for name, seconds in (("a.json", 0), ("b.json", 86399), ("summary.txt", 60)):
+            self.write(name, SUMMARY if name == "summary.txt" else "{}")
+            os.utime(self.folder / name, (seconds, seconds))
+        version = re.search(r"VERSION ([0-9.]+)\n", (ROOT / "CMakeLists.txt").read_text("utf-8"))[1]
+        for arguments, expected in (
+                (["a.json", "b.json"],
+                 ["a.json of 1970-01-01 00:00", "b.json of 1970-01-01 23:59"]),
+                (["-s", "summary.txt"], ["summary.txt of 1970-01-01 00:01"])):
+            self.assert_run(*arguments, "-o", "p.html")
+            page = (self.folder / "p.html").read_text("utf-8")
+            self.assertEqual([*expected, f"metagen {version}"],
+                             re.findall('<span class="file">(.*?)</span>', page))
 
     def test_what_can_not_be_read(self):
         self.assert_refused("none.json: No such file or directory", "a.json", "none.json")

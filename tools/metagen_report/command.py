@@ -3,7 +3,9 @@
 import argparse
 import pathlib
 import sys
+import time
 
+from . import VERSION
 from .documents import UnreadableDocument, compare_documents, parse_document
 from .page import render_page
 from .summary import UnreadableSummary, read_summary
@@ -38,13 +40,22 @@ def _names(left, right):
     return names if names[0] != names[1] else (left, right)
 
 
+def _dated(path, name):
+    changed = time.localtime(pathlib.Path(path).stat().st_mtime)
+    return f"{name} of {time.strftime('%Y-%m-%d %H:%M', changed)}"
+
+
 def _report(arguments):
     if arguments.summary is not None:
-        name = pathlib.Path(arguments.summary).name
-        return read_summary(_read(arguments.summary), name)
-    left, right = arguments.documents
-    return compare_documents(parse_document(_read(left), left), parse_document(_read(right), right),
-                             *_names(left, right))
+        paths = [arguments.summary]
+        names = [pathlib.Path(arguments.summary).name]
+        report = read_summary(_read(*paths), *names)
+    else:
+        paths = arguments.documents
+        names = _names(*paths)
+        report = compare_documents(*(parse_document(_read(path), path) for path in paths), *names)
+    report.files = [*map(_dated, paths, names), f"metagen {VERSION}"]
+    return report
 
 
 def main(words):

@@ -23,6 +23,7 @@ _PAGE = string.Template("""\
 <style>$style</style>
 <header>
 <h1>$title</h1>
+<p id="files">$files</p>
 <p id="overview">$overview</p>
 </header>
 <nav aria-label="Plugins"><ol>
@@ -195,6 +196,7 @@ def render_page(report):
         title=_escape(report.title),
         left=_escape(report.left),
         right=_escape(report.right),
+        files=" · ".join(_span("file", _escape(file)) for file in report.files),
         overview=_overview(report, entries),
         notes=f'<pre id="notes">{notes}</pre>' if notes else "",
         kinds="".join(f'<label><input type="checkbox" checked value="{kind}">'

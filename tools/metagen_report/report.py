@@ -49,13 +49,15 @@ class Group:
 
 @dataclasses.dataclass
 class Report:
-    """A whole page: its title, what its two sides are called, lines to show first, and groups."""
+    """A whole page: its title, what its two sides are called, lines to show first, the groups, and
+    the files that it was made from."""
 
     title: str
     left: str
     right: str
     notes: list
     groups: list
+    files: list = dataclasses.field(default_factory=list)
 
 
 def kind_of(left, right):
