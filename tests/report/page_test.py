@@ -295,9 +295,9 @@ class PageTest(unittest.TestCase):
         subprocess.run([sys.executable, TOOL, "-s", summary, "-o", page], check=True)
         self.open(page)
         self.assertEqual([("Lamp", ["", "color", "", "", "color", "old", "size", "size"]),
-                          ("Gone", [""]), ("Own", [""]),
+                          ("Gone", [""]), ("Map", ["a", "b"]), ("Own", [""]), ("Sun", ["", "size"]),
                           ("Two  blanks", ["new"]), ("Zoo", ["a"])], names(self.shown()))
-        self.assertTrue(self.text("#overview").startswith("12 entries in 5 plugins."))
+        self.assertTrue(self.text("#overview").startswith("16 entries in 7 plugins."))
         self.assertEqual("2 failed, 1 removed, 3 changed, 2 duplicated", self.shown()[0][1])
         self.assertEqual("Lamp has an odd default", self.text("#notes"))
         self.browser.screenshot(SHOTS / "summary.png")

@@ -22,6 +22,8 @@ from metagen_report.page import render_page  # noqa: E402
 from metagen_report.report import ABSENT, Entry, Group, Report, Row  # noqa: E402
 from metagen_report.summary import UnreadableSummary, read_summary  # noqa: E402
 
+BOTH_SO = "of the parameter or of the plugin: combine lists both so"
+
 SUMMARY_REPORT = Report(
     "What combine found: s.txt", "SDK", "stripped document", ["Lamp has an odd default"],
     [Group("Lamp", "", [
@@ -38,7 +40,16 @@ SUMMARY_REPORT = Report(
                                       Row("defaultValue", "1", "2")]),
         Entry("duplicated", "", "size", [Row("defaultValue", "1", "1")])]),
      Group("Gone", "", [Entry("removed", "plugin", "", [])]),
+     Group("Map", "", [
+         Entry("duplicated", "", "a", [Row("type", "texture", "texture")]),
+         Entry("duplicated", "", "b", [Row("type", "texture", "texture"),
+                                       Row("", note=BOTH_SO)])]),
      Group("Own", "", [Entry("added", "plugin", "", [Row("type", ABSENT, "light")])]),
+     Group("Sun", "", [
+         Entry("duplicated", "plugin", "", [
+             Row("type", "light", "light"),
+             Row("", note='of the plugin: combine lists it under "size"')]),
+         Entry("duplicated", "", "size", [Row("type", "float", "float")])]),
      Group("Two  blanks", "", [
          Entry("added", "", "new", [Row("defaultValue", ABSENT, "1")])]),
      Group("Zoo", "", [Entry("duplicated", "", "a", [Row("type", "bool", "bool")])])])

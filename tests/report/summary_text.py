@@ -22,10 +22,14 @@ Number of deprecations: 2
 1. Gone::
 2. Lamp::old
 
-Number of duplications: 3
+Number of duplications: 7
 1. Lamp::::type::"light"
 2. Lamp::size::defaultValue::"1"
-3. Zoo::a::type::"bool"
+3. Map::a::type::"texture"
+4. Map::b::type::"texture"
+5. Sun::size::type::"float"
+6. Sun::size::type::"light"
+7. Zoo::a::type::"bool"
 """
 
 EMPTY_SUMMARY = """\

@@ -7,6 +7,11 @@ import re
 from .report import (ABSENT, ADDED, CHANGED, DUPLICATED, FAILED, REMOVED, Entry, Group, Report,
                      Row)
 
+# The plugins' types that are no types of parameters, too; only "texture" is both.
+_CATEGORIES = (None, "bitmap", "BRDF", "node", "geometry", "light", "material", "render_channel",
+               "settings", "uvw", "volumetric")
+
+
 class UnreadableSummary(Exception):
     """A text that is no summary of combine; the text says what is missing."""
 
@@ -76,7 +81,7 @@ def _entry(kind, name, *rows):
 def _change(key):
     """The reader of a list of changes of a key."""
 
-    def read(text):
+    def read(text, _):
         name, old, new = _split_change(text)
         plugin, parameter = _split_name(name)
         return plugin, _entry(ADDED if old is ABSENT else CHANGED, parameter, Row(key, old, new))
@@ -84,30 +89,38 @@ def _change(key):
     return read
 
 
-def _failure(text):
+def _failure(text, _):
     name, _, message = text.partition(": ")
     plugin, parameter = _split_name(name)
     return plugin, _entry(FAILED, parameter, Row("", note=message))
 
 
-def _deprecation(text):
+def _deprecation(text, _):
     plugin, parameter = _split_name(text)
     return plugin, _entry(REMOVED, parameter)
 
 
-def _duplication(text):
-    """Plugin::parameter::key::value, with a parameter that is empty at the plugin's level."""
+def _duplication(text, following):
+    """Plugin::parameter::key::value. A plugin's own "type" is the last of its duplications, and
+    combine lists it under the parameter that it looked at before."""
     plugin, rest = _split_name(text)
     parameter, rest = _split_name(rest)
     key, value_text = _split_name(rest)
     value, end = _value_at(value_text, 0)
     if value is ABSENT or end != len(value_text):
         raise UnreadableSummary(f"no duplication: {text}")
-    return plugin, _entry(DUPLICATED, parameter, Row(key, value, value))
+    rows = [Row(key, value, value)]
+    if parameter and key == "type" and _split_name(following)[0] != plugin:
+        if value in _CATEGORIES:
+            rows.append(Row("", note=f'of the plugin: combine lists it under "{parameter}"'))
+            parameter = ""
+        elif value == "texture":
+            rows.append(Row("", note="of the parameter or of the plugin: combine lists both so"))
+    return plugin, _entry(DUPLICATED, parameter, *rows)
 
 
-# The headings as combine prints them, each with what reads an entry of its list. One has no
-# blank before the number, which is as combine has it.
+# The headings as combine prints them, each with what reads an entry of its list, given the entry
+# that follows. One has no blank before the number, which is as combine has it.
 _HEADINGS = (
     ("Number of changed plugin types: ", _change("type")),
     ("Changed parameter types: ", _change("type")),
@@ -136,6 +149,7 @@ def _groups(findings):
 def read_summary(text, name):
     """The report of a summary. The name is for its title."""
     messages, lists = _read_lists(text.replace("\r\n", "\n"))
-    findings = [reader(entry) for reader, entries in lists for entry in entries]
+    findings = [reader(entry, following) for reader, entries in lists
+                for entry, following in zip(entries, [*entries[1:], ""])]
     return Report(f"What combine found: {name}", "SDK", "stripped document", messages,
                   _groups(findings))
