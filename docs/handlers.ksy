@@ -14,7 +14,7 @@ seq:
     contents: HDLR
   - id: version
     type: s4
-    doc: The document's version, truncated toward zero.
+    doc: The document's version, truncated toward zero; -2147483648 when 32 bits can't hold it.
   - id: num_plugins
     type: u4
   - id: plugins

@@ -13,7 +13,7 @@ seq:
     contents: META
   - id: version
     type: s4
-    doc: The document's version, truncated toward zero.
+    doc: The document's version, truncated toward zero; -2147483648 when 32 bits can't hold it.
   - id: num_plugins
     type: u4
   - id: plugins
@@ -105,7 +105,8 @@ types:
       - id: num_elements
         type: u4
         doc: |
-          Numbers, not vectors or colours. None when the document's default could not be read.
+          Numbers, not vectors or colours. 0 for an empty list, or when the default of what is no
+          list could not be read.
       - id: elements
         type: f4
         repeat: expr
