@@ -29,6 +29,17 @@ def dead_links(pages):
     return found
 
 
+def linked_from(page, found=None):
+    """The page, and all pages that links lead to from it."""
+    found = {page} if found is None else found
+    for target, _ in _LINK.findall(page.read_text(encoding="utf-8")):
+        place = (page.parent / target).resolve()
+        if place.suffix == ".md" and place not in found:
+            found.add(place)
+            linked_from(place, found)
+    return found
+
+
 def is_source(path):
     """Neither built nor in a hidden folder, such as a version control keeps."""
     folders = path.relative_to(ROOT).parts[:-1]
@@ -47,6 +58,10 @@ class LinksTest(unittest.TestCase):
         pages = sorted(path for path in ROOT.rglob("*.md") if is_source(path))
         self.assertGreater(len(pages), 5)
         self.assertEqual([], dead_links(pages))
+
+    def test_every_page_is_found_from_the_first(self):
+        pages = {path for path in ROOT.rglob("*.md") if is_source(path)}
+        self.assertEqual(set(), pages - linked_from(ROOT / "README.md"))
 
     def test_where_they_are_installed(self):
         with tempfile.TemporaryDirectory(prefix="metagen-test-") as prefix:
