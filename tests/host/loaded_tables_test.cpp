@@ -31,11 +31,11 @@ TEST(LoadedTables, HoldWhatTheDocumentHas) {
     const HandlerMeta handlers = loadHandlers(handlersBytes);
     EXPECT_EQ(handlers.version, 2);
     EXPECT_EQ(handlers.plugins.size(), 1U);
-    EXPECT_EQ(handlers.plugins.at("Unreadable").handlers.size(), 2U);
+    EXPECT_EQ(handlers.plugins.at("Unreadable").handlers.size(), 4U);
     const Meta meta = loadMeta(metaBytes);
     EXPECT_EQ(meta.version, 2);
     EXPECT_EQ(meta.plugins.size(), 5U);
-    EXPECT_EQ(meta.plugins.at("Numbers").parameters.size(), 9U);
+    EXPECT_EQ(meta.plugins.at("Numbers").parameters.size(), 13U);
     EXPECT_EQ(meta.scalingParams.at("Numbers").at("smallest").conditions.size(), 3U);
     EXPECT_EQ(std::get<float>(meta.plugins.at("Numbers").parameters.at("digits").defaultValue),
               0.12345678F);
