@@ -1,8 +1,18 @@
 # The package that `cmake --install` lays down and find_package(metagen) finds: the tool, the replay
-# SDK, and the function for hosts. The build folder serves find_package, too, as metagen_DIR.
+# SDK, and the headers and the function for hosts. The build folder serves find_package, too, as metagen_DIR.
 
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
+
+# The headers for hosts have a folder of their own: on the path of a cross build they must not take
+# the build machine's other headers along.
+set(headers_folder "${CMAKE_INSTALL_DATADIR}/metagen/include")
+add_library(metagen_host INTERFACE)
+add_library(metagen::host ALIAS metagen_host)
+set_target_properties(metagen_host PROPERTIES EXPORT_NAME host)
+target_compile_features(metagen_host INTERFACE cxx_std_17)
+target_include_directories(metagen_host INTERFACE
+    "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>" "$<INSTALL_INTERFACE:${headers_folder}>")
 
 # The replay SDK may be left out of a package; everything else stays together.
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME metagen)
@@ -11,6 +21,8 @@ set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/metagen")
 set(replay_sdk_folder "${CMAKE_INSTALL_LIBDIR}/metagen/replay_sdk")
 
 install(TARGETS metagen EXPORT metagenTargets RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS metagen_host EXPORT metagenTargets)
+install(DIRECTORY include/metagen DESTINATION "${headers_folder}")
 install(TARGETS replay_sdk
     LIBRARY DESTINATION "${replay_sdk_folder}/bin" COMPONENT replay_sdk)
 install(FILES replay_sdk/catalogue.json

@@ -5,7 +5,7 @@
 
 #include "description.h"
 
-namespace host {
+namespace example {
 
 namespace {
 
@@ -31,7 +31,7 @@ public:
             }
         }
         for (const auto& [name, entry] : loaded) {
-            if (!compiled.contains(name)) lines.push_back(path + name + " is only in the table");
+            if (compiled.count(name) == 0) lines.push_back(path + name + " is only in the table");
         }
     }
 
@@ -182,4 +182,4 @@ std::vector<std::string> differences(const Meta& compiled, const Meta& loaded) {
     return out.lines;
 }
 
-}  // namespace host
+}  // namespace example

@@ -4,10 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "handlers.h"
-#include "meta.h"
+#include "metagen/host/handlers.h"
+#include "metagen/host/meta.h"
 
-namespace host {
+namespace example {
+
+using namespace metagen::host;
 
 /// Each difference is a line. The same content is no difference where source and table hold it
 /// differently:
@@ -21,4 +23,4 @@ namespace host {
 std::vector<std::string> differences(const HandlerMeta& compiled, const HandlerMeta& loaded);
 std::vector<std::string> differences(const Meta& compiled, const Meta& loaded);
 
-}  // namespace host
+}  // namespace example

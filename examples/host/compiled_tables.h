@@ -1,12 +1,14 @@
 // The tables that the generated source builds.
 #pragma once
 
-#include "handlers.h"
-#include "meta.h"
+#include "metagen/host/handlers.h"
+#include "metagen/host/meta.h"
 
-namespace host {
+namespace example {
+
+using namespace metagen::host;
 
 HandlerMeta compiledHandlers();
 Meta compiledMeta();
 
-}  // namespace host
+}  // namespace example

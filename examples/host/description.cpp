@@ -2,20 +2,19 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <span>
 
-namespace host {
+namespace example {
 
 namespace {
 
 /// Long arrays are cut.
 template <typename Number>
-std::string describeNumbers(std::span<const Number> numbers) {
+std::string describeNumbers(const std::vector<Number>& numbers) {
     constexpr std::size_t shown = 12;
     std::string text = "(";
-    for (const Number number : numbers.first(std::min(shown, numbers.size()))) {
-        if (text.size() > 1) text += ", ";
-        text += describe(number);
+    for (std::size_t index = 0; index < std::min(shown, numbers.size()); ++index) {
+        if (index > 0) text += ", ";
+        text += describe(numbers[index]);
     }
     return text + (numbers.size() > shown ? ", ...)" : ")");
 }
@@ -40,8 +39,7 @@ struct DefaultDescription {
     std::string operator()(const TypeOnly& type) const { return describeType(type.descriptor); }
     template <typename Number>
     std::string operator()(const NumberArray<Number>& array) const {
-        return describeType(array.descriptor) + ' ' +
-               describeNumbers(std::span<const Number>(array.numbers));
+        return describeType(array.descriptor) + ' ' + describeNumbers(array.numbers);
     }
 };
 
@@ -57,8 +55,7 @@ std::string describe(float number) {
 
 std::string describe(const Handler& handler) {
     if (handler.type == HandlerTypes::Duplicate) return "duplicate";
-    const std::string value =
-        handler.value.empty() ? "(1)" : describeNumbers(std::span<const float>(handler.value));
+    const std::string value = handler.value.empty() ? "(1)" : describeNumbers(handler.value);
     return (handler.type == HandlerTypes::Color ? "color " : "float ") + value;
 }
 
@@ -89,4 +86,4 @@ std::string describe(const Scaling& scaling) {
     return text;
 }
 
-}  // namespace host
+}  // namespace example

@@ -4,10 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "handlers.h"
-#include "meta.h"
+#include "metagen/host/handlers.h"
+#include "metagen/host/meta.h"
 
-namespace host {
+namespace example {
+
+using namespace metagen::host;
 
 std::string describe(std::int32_t number);
 /// Six significant digits.
@@ -18,4 +20,4 @@ std::string describe(const std::vector<std::string>& names);
 std::string describe(const Scaling::Condition& condition);
 std::string describe(const Scaling& scaling);
 
-}  // namespace host
+}  // namespace example

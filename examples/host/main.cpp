@@ -7,41 +7,37 @@
 // agree, 1 when they differ, 2 when a file can't be read or the command line is wrong.
 
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 #include "comparison.h"
 #include "compiled_tables.h"
-#include "loaded_tables.h"
+#include "metagen/host/load.h"
 #include "report.h"
 
 namespace {
+
+using metagen::host::HandlerMeta;
+using metagen::host::Meta;
 
 constexpr int agreeStatus = 0;
 constexpr int differStatus = 1;
 constexpr int unusableStatus = 2;
 
-std::string readFile(const char* path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) throw std::runtime_error("can't be opened");
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 /// Loads a table and says whether it is the same as the compiled one.
 template <typename Tables>
 bool agrees(const char* path, const Tables& compiled, Tables (*load)(std::string_view)) try {
-    const std::vector<std::string> lines = host::differences(compiled, load(readFile(path)));
+    const std::vector<std::string> lines =
+        example::differences(compiled, load(metagen::host::readFile(path)));
     for (const std::string& line : lines) std::printf("%s\n", line.c_str());
     return lines.empty();
 } catch (const std::exception& exception) {
     throw std::runtime_error(std::string(path) + ": " + exception.what());
 }
 
-int compare(const char* handlersPath, const char* metaPath, const host::HandlerMeta& handlers,
-            const host::Meta& meta) {
-    const bool handlersAgree = agrees(handlersPath, handlers, host::loadHandlers);
-    const bool metaAgrees = agrees(metaPath, meta, host::loadMeta);
+int compare(const char* handlersPath, const char* metaPath, const HandlerMeta& handlers,
+            const Meta& meta) {
+    const bool handlersAgree = agrees(handlersPath, handlers, metagen::host::loadHandlers);
+    const bool metaAgrees = agrees(metaPath, meta, metagen::host::loadMeta);
     const bool agree = handlersAgree && metaAgrees;
     std::printf("The compiled-in and the loaded tables %s.\n", agree ? "agree" : "differ");
     return agree ? agreeStatus : differStatus;
@@ -52,11 +48,11 @@ int run(int argumentCount, char** arguments) {
         std::fputs("usage: example_host <handlers.bin> <meta.bin> [plugin]\n", stderr);
         return unusableStatus;
     }
-    const host::HandlerMeta handlers = host::compiledHandlers();
-    const host::Meta meta = host::compiledMeta();
+    const HandlerMeta handlers = example::compiledHandlers();
+    const Meta meta = example::compiledMeta();
     if (argumentCount == 3) {
-        host::printOverview(handlers, meta);
-    } else if (!host::printPlugin(arguments[3], handlers, meta)) {
+        example::printOverview(handlers, meta);
+    } else if (!example::printPlugin(arguments[3], handlers, meta)) {
         std::fprintf(stderr, "there is no plugin %s\n", arguments[3]);
         return unusableStatus;
     }

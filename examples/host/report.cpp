@@ -4,7 +4,7 @@
 
 #include "description.h"
 
-namespace host {
+namespace example {
 
 namespace {
 
@@ -23,9 +23,9 @@ void printRow(const std::string& plugin, const std::string& category, std::size_
 
 std::string describeFlags(std::uint32_t flags) {
     std::string text;
-    if ((flags & 1U) != 0) text += " user data";
-    if ((flags & 4U) != 0) return text + " input file";
-    if ((flags & 2U) != 0) text += " file";
+    if ((flags & fromUserData) != 0) text += " user data";
+    if ((flags & namesInputFile) != 0) return text + " input file";
+    if ((flags & namesFile) != 0) text += " file";
     return text;
 }
 
@@ -61,4 +61,4 @@ bool printPlugin(const std::string& name, const HandlerMeta& handlers, const Met
     return true;
 }
 
-}  // namespace host
+}  // namespace example

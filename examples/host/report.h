@@ -3,10 +3,12 @@
 
 #include <string>
 
-#include "handlers.h"
-#include "meta.h"
+#include "metagen/host/handlers.h"
+#include "metagen/host/meta.h"
 
-namespace host {
+namespace example {
+
+using namespace metagen::host;
 
 /// Prints a line for each plugin: how many parameters, handlers and so on it has.
 void printOverview(const HandlerMeta& handlers, const Meta& meta);
@@ -14,4 +16,4 @@ void printOverview(const HandlerMeta& handlers, const Meta& meta);
 /// Prints everything about one plugin; false when there is none of that name.
 bool printPlugin(const std::string& name, const HandlerMeta& handlers, const Meta& meta);
 
-}  // namespace host
+}  // namespace example

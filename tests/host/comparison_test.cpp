@@ -4,7 +4,7 @@
 
 #include <limits>
 
-namespace host {
+namespace example {
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -201,4 +201,4 @@ TEST(Comparison, Handlers) {
 }
 
 }  // namespace
-}  // namespace host
+}  // namespace example

@@ -1,5 +1,3 @@
-#include "loaded_tables.h"
-
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -8,9 +6,9 @@
 
 #include "comparison.h"
 #include "compiled_tables.h"
-#include "table_reader.h"
+#include "metagen/host/load.h"
 
-namespace host {
+namespace example {
 namespace {
 
 std::string fileBytes(const std::string& name) {
@@ -109,27 +107,96 @@ std::string u32(std::uint32_t number) {
 
 TEST(LoadedTables, ACountBeyondTheirEndTakesNoMemory) {
     const std::string head = "HDLR" + u32(1);
-    EXPECT_EQ(refusal(loadHandlers, head + u32(0xFFFFFFFF)),
-              "at byte 12: the table ends too early");
+    EXPECT_EQ(refusal(loadHandlers, head + u32(0xFFFFFFFF)), "at byte 8: the table ends too early");
     EXPECT_EQ(refusal(loadHandlers, head + u32(1) + u32(0xFFFFFFFF) + "ABCD"),
-              "at byte 16: the table ends too early");
+              "at byte 12: the table ends too early");
     EXPECT_EQ(
         refusal(loadHandlers, head + u32(1) + u32(0) + u32(1) + u32(0) + u32(1) + u32(0xFFFFFFFF)),
-        "at byte 32: the table ends too early");
+        "at byte 28: the table ends too early");
 }
 
-TEST(LoadedTables, UnknownCodesAreRefused) {
-    EXPECT_EQ(refusal(loadHandlers,
-                      "HDLR" + u32(1) + u32(1) + u32(0) + u32(1) + u32(0) + u32(3) + u32(0)),
-              "at byte 28: the table names an unknown handler");
-    EXPECT_EQ(refusal(loadMeta, "META" + u32(1) + u32(1) + u32(0) + u32(0) + u32(1) + u32(0) +
-                                    u32(0) + u32(0) + u32(6) + u32(0)),
-              "at byte 40: the table has an unknown kind of default");
-    EXPECT_EQ(refusal(loadMeta, "META" + u32(1) + u32(0) + u32(0) + u32(0) + u32(1) + u32(0) +
-                                    u32(1) + u32(0) + u32(1) + u32(1) + '\0' + u32(1) + u32(0) +
-                                    u32(1) + u32(521) + u32(0)),
-              "at byte 61: the table has an unknown type of condition value");
+std::string handlerTable(std::uint32_t type, std::uint32_t count) {
+    return "HDLR" + u32(1) + u32(1) + u32(0) + u32(1) + u32(0) + u32(type) + u32(count) +
+           std::string(4 * count, '\0');
+}
+
+TEST(LoadedTables, UnknownHandlersAreRefused) {
+    EXPECT_EQ(refusal(loadHandlers, handlerTable(1, 1)), "none");
+    EXPECT_EQ(refusal(loadHandlers, handlerTable(2, 3)), "none");
+    EXPECT_EQ(refusal(loadHandlers, handlerTable(6, 0)), "none");
+    EXPECT_EQ(refusal(loadHandlers, handlerTable(3, 0)),
+              "at byte 24: the table names an unknown handler");
+    const std::string wrongCount =
+        "at byte 28: the table has another count of numbers than its handler";
+    EXPECT_EQ(refusal(loadHandlers, handlerTable(1, 3)), wrongCount);
+    EXPECT_EQ(refusal(loadHandlers, handlerTable(2, 2)), wrongCount);
+    EXPECT_EQ(refusal(loadHandlers, handlerTable(6, 1)), wrongCount);
+}
+
+/// One parameter, with what stands behind its type.
+std::string parameterTable(std::uint32_t flags, const std::string& defaultValue) {
+    return "META" + u32(1) + u32(1) + u32(0) + u32(0) + u32(1) + u32(0) + u32(0) + u32(flags) +
+           defaultValue + u32(0) + u32(0) + u32(0);
+}
+
+TEST(LoadedTables, UnknownDefaultsAreRefused) {
+    EXPECT_EQ(refusal(loadMeta, parameterTable(7, u32(3) + u32(524))), "none");
+    EXPECT_EQ(refusal(loadMeta, parameterTable(8, u32(3) + u32(524))),
+              "at byte 32: the table has an unknown flag");
+    EXPECT_EQ(refusal(loadMeta, parameterTable(0, u32(6) + u32(0))),
+              "at byte 36: the table has an unknown kind of default");
+    const std::string unknown = "at byte 40: the table has an unknown descriptor";
+    EXPECT_EQ(refusal(loadMeta, parameterTable(0, u32(3) + u32(273))), unknown);
+    EXPECT_EQ(refusal(loadMeta, parameterTable(0, u32(3) + u32(523))), unknown);
+    EXPECT_EQ(refusal(loadMeta, parameterTable(0, u32(4) + u32(521) + u32(0))), unknown);
+    EXPECT_EQ(refusal(loadMeta, parameterTable(0, u32(5) + u32(522) + u32(0))), unknown);
+}
+
+TEST(LoadedTables, OtherCountsOfNumbersThanTheDescriptorHasAreRefused) {
+    const auto floats = [](std::uint32_t descriptor, std::uint32_t count) {
+        return refusal(loadMeta, parameterTable(0, u32(5) + u32(descriptor) + u32(count) +
+                                                       std::string(4 * count, '\0')));
+    };
+    const std::string wrongCount =
+        "at byte 44: the table has another count of numbers than its descriptor";
+    EXPECT_EQ(floats(273, 3), "none");
+    EXPECT_EQ(floats(273, 0), "none");
+    EXPECT_EQ(floats(273, 6), wrongCount);
+    EXPECT_EQ(floats(545, 8), "none");
+    EXPECT_EQ(floats(545, 7), wrongCount);
+    EXPECT_EQ(floats(577, 18), "none");
+    EXPECT_EQ(floats(641, 23), wrongCount);
+}
+
+TEST(LoadedTables, NamesThatDoNotAscendAreRefused) {
+    const std::string empty = u32(0) + u32(0);  // no category, no parameters
+    const auto plugins = [&](const std::string& first, const std::string& second) {
+        return refusal(loadMeta, "META" + u32(1) + u32(2) + u32(1) + first + empty + u32(1) +
+                                     second + empty + u32(0) + u32(0) + u32(0));
+    };
+    EXPECT_EQ(plugins("a", "b"), "none");
+    EXPECT_EQ(plugins("z", "\xC3"), "none");
+    EXPECT_EQ(plugins("b", "a"), "at byte 25: the table has its names out of order");
+    EXPECT_EQ(plugins("a", "a"), "at byte 25: the table has its names out of order");
+}
+
+/// One scaled parameter, with what stands behind its name.
+std::string scalingTable(const std::string& scaling) {
+    return "META" + u32(1) + u32(0) + u32(0) + u32(0) + u32(1) + u32(0) + u32(1) + u32(0) + scaling;
+}
+
+TEST(LoadedTables, UnknownScalingIsRefused) {
+    const std::string plain = u32(1) + u32(1) + '\0';  // unit, power, inverse
+    EXPECT_EQ(refusal(loadMeta, scalingTable(plain + u32(0))), "none");
+    EXPECT_EQ(refusal(loadMeta, scalingTable(u32(2) + u32(1) + '\0' + u32(0))),
+              "at byte 36: the table has an unknown unit");
+    EXPECT_EQ(refusal(loadMeta, scalingTable(u32(1) + u32(1) + '\2' + u32(0))),
+              "at byte 44: the table has an unknown inverse flag");
+    EXPECT_EQ(refusal(loadMeta, scalingTable(plain + u32(1) + u32(0) + u32(2) + u32(265) + u32(0))),
+              "at byte 53: the table has an unknown operation");
+    EXPECT_EQ(refusal(loadMeta, scalingTable(plain + u32(1) + u32(0) + u32(1) + u32(521) + u32(0))),
+              "at byte 57: the table has an unknown type of condition value");
 }
 
 }  // namespace
-}  // namespace host
+}  // namespace example

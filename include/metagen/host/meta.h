@@ -1,19 +1,24 @@
-// The host's parameter metadata: types, default values, file parameters and scaling. The generated
-// meta.inl builds a Meta, in these words.
+// Parameter metadata: types, default values, file parameters and scaling. The generated meta.inl is
+// the body of a function that returns a Meta.
 #pragma once
 
 #include <array>
+#include <climits>  // INT_MIN, which meta.inl names
 #include <cstddef>
 #include <cstdint>
+#include <limits>  // infinities and NaNs, which meta.inl names
 #include <map>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
-namespace host {
+namespace metagen::host {
 
 /// The parts of a type descriptor: how an element is represented, of how many numbers it is made,
 /// and whether there is one or a list of them. A descriptor is one of each, or-ed together.
+// NOLINTBEGIN(readability-identifier-naming): the generated source has these names.
 namespace qymat {
 inline constexpr std::uint32_t RDT_FLOAT = 1;
 inline constexpr std::uint32_t RDT_INT = 2;
@@ -26,6 +31,12 @@ inline constexpr std::uint32_t STDT_ARRAY_12 = 128;
 inline constexpr std::uint32_t SQDT_SINGLE = 256;
 inline constexpr std::uint32_t SQDT_LIST = 512;
 }  // namespace qymat
+// NOLINTEND(readability-identifier-naming)
+
+/// Flags of a parameter.
+inline constexpr std::uint32_t fromUserData = 1;
+inline constexpr std::uint32_t namesFile = 2;
+inline constexpr std::uint32_t namesInputFile = 4;
 
 /// A default of which only the type is known.
 struct TypeOnly {
@@ -45,41 +56,46 @@ using DefaultValue = std::variant<std::int32_t, float, std::string, TypeOnly,
 
 struct Parameter {
     std::string type;
-    std::uint32_t flags;  ///< 1: user data, 2: names a file, 4: names an input file
-    DefaultValue defaultValue;
+    std::uint32_t flags = 0;
+    DefaultValue defaultValue = {};
 };
 
 /// One plugin class. `add` has an overload for every form in which meta.inl gives a default. The
 /// number before a descriptor, always 1, is how many values of that type the parameter has.
 class PluginMeta {
 public:
-    PluginMeta& add(const std::string& name, const char* type, std::uint32_t flags, int value) {
-        return add(name, {type, flags, std::int32_t{value}});
+    PluginMeta& add(std::string_view name, std::string_view type, std::uint32_t flags, int value) {
+        return add(name, {std::string(type), flags, std::int32_t{value}});
     }
-    PluginMeta& add(const std::string& name, const char* type, std::uint32_t flags, float value) {
-        return add(name, {type, flags, value});
+    PluginMeta& add(std::string_view name, std::string_view type, std::uint32_t flags,
+                    float value) {
+        return add(name, {std::string(type), flags, value});
     }
-    PluginMeta& add(const std::string& name, const char* type, std::uint32_t flags,
-                    const char* text) {
-        return add(name, {type, flags, std::string(text)});
+    /// A text may hold a NUL, which ends a literal only where it is taken as a pointer.
+    template <std::size_t size>
+    PluginMeta& add(std::string_view name, std::string_view type, std::uint32_t flags,
+                    const char (&text)[size]) {
+        return add(name, {std::string(type), flags, std::string(text, size - 1)});
     }
-    PluginMeta& add(const std::string& name, const char* type, std::uint32_t flags, int /*count*/,
-                    std::uint32_t descriptor) {
-        return add(name, {type, flags, TypeOnly{descriptor}});
+    PluginMeta& add(std::string_view name, std::string_view type, std::uint32_t flags,
+                    int /*count*/, std::uint32_t descriptor) {
+        return add(name, {std::string(type), flags, TypeOnly{descriptor}});
     }
     template <typename Number, std::size_t size>
-    PluginMeta& add(const std::string& name, const char* type, std::uint32_t flags, int /*count*/,
-                    std::uint32_t descriptor, const Number (&numbers)[size]) {
-        return add(name, {type, flags, NumberArray<Number>{descriptor, {numbers, numbers + size}}});
+    PluginMeta& add(std::string_view name, std::string_view type, std::uint32_t flags,
+                    int /*count*/, std::uint32_t descriptor, const Number (&numbers)[size]) {
+        return add(name, {std::string(type), flags,
+                          NumberArray<Number>{descriptor, {numbers, numbers + size}}});
     }
-    /// An array without elements, as metagen_generate_tables puts it.
+    /// An array without elements, as metagen_generate_tables completes it.
     template <typename Number>
-    PluginMeta& add(const std::string& name, const char* type, std::uint32_t flags, int /*count*/,
-                    std::uint32_t descriptor, const std::array<Number, 0>& /*numbers*/) {
-        return add(name, {type, flags, NumberArray<Number>{descriptor, {}}});
+    PluginMeta& add(std::string_view name, std::string_view type, std::uint32_t flags,
+                    int /*count*/, std::uint32_t descriptor,
+                    const std::array<Number, 0>& /*none*/) {
+        return add(name, {std::string(type), flags, NumberArray<Number>{descriptor, {}}});
     }
-    PluginMeta& add(const std::string& name, Parameter parameter) {
-        parameters.insert_or_assign(name, std::move(parameter));
+    PluginMeta& add(std::string_view name, Parameter parameter) {
+        parameters.insert_or_assign(std::string(name), std::move(parameter));
         return *this;
     }
 
@@ -92,7 +108,7 @@ struct Scaling {
     enum class UnitType : std::int32_t { Scene = 1 };
     enum class Operation : std::int32_t { Equals = 1 };
 
-    /// The named parameter has the value; a document may leave the value out.
+    /// The named parameter of the same plugin has the value; a document may leave the value out.
     struct Condition {
         std::string parameter;
         Operation operation = Operation::Equals;
@@ -112,8 +128,8 @@ class Meta {
 public:
     explicit Meta(double documentVersion) : version(documentVersion) {}
 
-    PluginMeta& add(const std::string& plugin, const char* category) {
-        PluginMeta& entry = plugins[plugin];
+    PluginMeta& add(std::string_view plugin, std::string_view category) {
+        PluginMeta& entry = plugins[std::string(plugin)];
         entry.category = category;
         return entry;
     }
@@ -125,4 +141,4 @@ public:
     std::map<std::string, std::map<std::string, Scaling>> scalingParams;  ///< by plugin, parameter
 };
 
-}  // namespace host
+}  // namespace metagen::host
