@@ -6,7 +6,8 @@
 # metagen changes, and puts the folder with the outputs on the target's include path. The target's
 # property METAGEN_TABLES_FOLDER names that folder. It holds handlers.inl and handlers.bin by genh,
 # meta.inl and meta.bin by genm. The .bin files are the tool's own, byte by byte; so are the .inl
-# files, but where they would not compile: see MetagenTables.cmake.
+# files, but where they would not compile: see MetagenTables.cmake. The build ends when a command fails,
+# or when a .bin file is one that the reader of metagen::host refuses.
 #
 # metagen loads the SDK's library in every run. SDK_ROOT is the SDK's root folder, the one with
 # `bin` below; METAGEN_REPLAY_SDK_ROOT, which the package sets, serves where no SDK is installed.
@@ -47,9 +48,11 @@ function(metagen_generate_tables)
             BYPRODUCTS "${folder}/${table}.generated.inl"
             COMMAND "${CMAKE_COMMAND}" -E env ${environment}
                 "${CMAKE_COMMAND}" "-DLAUNCHER=${launcher}" "-DTOOL=$<TARGET_FILE:metagen::metagen>"
+                "-DCHECKER=$<TARGET_FILE:metagen::check_tables>"
+                "-DSCHEMA=${METAGEN_SCHEMAS}/combined.schema.json"
                 -DCOMMAND=${command} "-DDOCUMENT=${arg_DOCUMENT}" "-DOUTPUT=${folder}/${table}"
                 -P "${script}"
-            DEPENDS "${arg_DOCUMENT}" "${script}" metagen::metagen
+            DEPENDS "${arg_DOCUMENT}" "${script}" metagen::metagen metagen::check_tables
                 "$<TARGET_FILE:metagen::metagen>" ${METAGEN_SDK_TARGETS}
             COMMENT "Generating ${table}.inl and ${table}.bin for ${arg_TARGET}"
             VERBATIM)

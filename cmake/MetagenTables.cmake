@@ -1,8 +1,9 @@
 # Run as a script by the rules of metagen_generate_tables: has the tool generate one table, and
-# hands it over only when the run did not fail.
+# hands it over only when the run did not fail and the checker can read it.
 #
-#     cmake -DTOOL=<metagen> -DLAUNCHER=<program or nothing> -DCOMMAND=<genh or genm>
-#           -DDOCUMENT=<combined.json> -DOUTPUT=<path without suffix> -P MetagenTables.cmake
+#     cmake -DTOOL=<metagen> -DCHECKER=<check-tables> -DLAUNCHER=<program or nothing>
+#           -DCOMMAND=<genh or genm> -DDOCUMENT=<combined.json> -DSCHEMA=<of such documents>
+#           -DOUTPUT=<path without suffix> -P MetagenTables.cmake
 #
 # Beside <path>.bin and <path>.inl stands <path>.generated.inl, the source text as the tool wrote
 # it. Its format has places that no C++ compiler takes, which <path>.inl completes:
@@ -29,15 +30,23 @@ set(generated "${OUTPUT}.generated")
 cmake_path(GET OUTPUT PARENT_PATH folder)
 file(MAKE_DIRECTORY "${folder}")
 
-execute_process(
-    COMMAND ${LAUNCHER} "${TOOL}" ${COMMAND} -i "${DOCUMENT}" -o "${generated}"
-    RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE printed)
-if(printed)
-    message(NOTICE "metagen ${COMMAND}: ${printed}")
-endif()
-if(NOT status EQUAL 0)
-    message(FATAL_ERROR "metagen ${COMMAND} ended with ${status} on ${DOCUMENT}")
-endif()
+# run(<what> <program> <argument>...): the program, through the launcher. Ends the build when it fails.
+function(run what)
+    execute_process(COMMAND ${LAUNCHER} ${ARGN}
+        RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE printed)
+    if(printed)
+        message(NOTICE "${what}: ${printed}")
+    endif()
+    if(NOT status EQUAL 0)
+        message(FATAL_ERROR "${what} ended with ${status} on\n  ${DOCUMENT}\n"
+            "Where a value in it doesn't fit, its schema tells:\n"
+            "  jsonschema --output pretty -i \"${DOCUMENT}\" \"${SCHEMA}\"\n${hint}")
+    endif()
+endfunction()
+
+run("metagen ${COMMAND}" "${TOOL}" ${COMMAND} -i "${DOCUMENT}" -o "${generated}")
+set(hint "A table that nobody can read comes of a scaling condition whose \"value\" is no number.\n")
+run("reading what metagen ${COMMAND} wrote" "${CHECKER}" "${generated}.bin")
 
 file(READ "${generated}.inl" source)
 string(REPLACE "\r\n" "\n" source "${source}")

@@ -14,6 +14,15 @@ target_compile_features(metagen_host INTERFACE cxx_std_17)
 target_include_directories(metagen_host INTERFACE
     "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>" "$<INSTALL_INTERFACE:${headers_folder}>")
 
+# What reads the tables of a host's build once, before the host does. It comes with the tool, whatever
+# is built, and is no command for users.
+add_executable(check_tables host/check_tables.cpp)
+add_executable(metagen::check_tables ALIAS check_tables)
+set_target_properties(check_tables PROPERTIES OUTPUT_NAME check-tables)
+target_link_libraries(check_tables PRIVATE metagen_host metagen_warnings)
+metagen_windows_executable(check_tables)
+add_dependencies(metagen check_tables)
+
 # The replay SDK may be left out of a package; everything else stays together.
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME metagen)
 
@@ -21,6 +30,8 @@ set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/metagen")
 set(replay_sdk_folder "${CMAKE_INSTALL_LIBDIR}/metagen/replay_sdk")
 
 install(TARGETS metagen EXPORT metagenTargets RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS check_tables EXPORT metagenTargets
+    RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/metagen")
 install(TARGETS metagen_host EXPORT metagenTargets)
 install(DIRECTORY include/metagen DESTINATION "${headers_folder}")
 install(TARGETS replay_sdk
@@ -37,19 +48,21 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/metagenConfigVersion.cma
     COMPATIBILITY SameMinorVersion ARCH_INDEPENDENT)
 
 set(HOST_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake")
+set(SCHEMAS "${PROJECT_SOURCE_DIR}/schemas")
 set(REPLAY_SDK_ROOT "${PROJECT_BINARY_DIR}/sdk")
 configure_package_config_file(cmake/metagenConfig.cmake.in
     "${PROJECT_BINARY_DIR}/metagenConfig.cmake"
     INSTALL_DESTINATION "${PROJECT_BINARY_DIR}"
     INSTALL_PREFIX "${PROJECT_BINARY_DIR}"
-    PATH_VARS HOST_SCRIPTS REPLAY_SDK_ROOT)
+    PATH_VARS HOST_SCRIPTS REPLAY_SDK_ROOT SCHEMAS)
 
 set(HOST_SCRIPTS "${package_folder}")
+set(SCHEMAS "${CMAKE_INSTALL_DATADIR}/metagen/schemas")
 set(REPLAY_SDK_ROOT "${replay_sdk_folder}")
 configure_package_config_file(cmake/metagenConfig.cmake.in
     "${PROJECT_BINARY_DIR}/package/metagenConfig.cmake"
     INSTALL_DESTINATION "${package_folder}"
-    PATH_VARS HOST_SCRIPTS REPLAY_SDK_ROOT)
+    PATH_VARS HOST_SCRIPTS REPLAY_SDK_ROOT SCHEMAS)
 install(FILES
     "${PROJECT_BINARY_DIR}/package/metagenConfig.cmake"
     "${PROJECT_BINARY_DIR}/metagenConfigVersion.cmake"

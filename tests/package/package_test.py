@@ -1,5 +1,6 @@
 """A project outside the tree finds an installed metagen and builds its tables with it."""
 
+import json
 import os
 import pathlib
 import shutil
@@ -64,22 +65,28 @@ class Package(unittest.TestCase):
     def tables(self):
         return self.build_folder / "example_host_tables"
 
-    def assert_host_agrees(self):
-        host = self.build_folder / ("example_host" + BINARY.suffix)
+    def run_host(self, host, *arguments, folder):
+        """The lines that the host prints."""
         finished = subprocess.run(
-            [*LAUNCHER, str(host), "handlers.bin", "meta.bin"], cwd=self.tables(),
-            env=environment(), capture_output=True, text=True, timeout=300, check=False)
+            [*LAUNCHER, str(host) + BINARY.suffix, *arguments], cwd=folder, env=environment(),
+            capture_output=True, text=True, timeout=300, check=False)
         self.assertEqual((0, ""), (finished.returncode, finished.stderr), finished.stdout)
-        self.assertEqual(AGREE, finished.stdout.splitlines()[-1])
+        return finished.stdout.splitlines()
+
+    def assert_host_agrees(self):
+        lines = self.run_host(self.build_folder / "example_host", "handlers.bin", "meta.bin",
+                              folder=self.tables())
+        self.assertEqual(AGREE, lines[-1])
 
     def test_what_is_installed(self):
         files = {path.relative_to(self.prefix).name for path in self.prefix.rglob("*")
                  if path.is_file()}
         library = "QyraSDKLibrary.dll" if BINARY.suffix else "libQyraSDKLibrary.so"
         self.assertLessEqual(
-            {BINARY.name, library, "catalogue.json", "metagenConfig.cmake",
-             "metagenConfigVersion.cmake", "metagenTargets.cmake", "MetagenHost.cmake",
-             "MetagenTables.cmake", "LICENSE"}, files)
+            {BINARY.name, "check-tables" + BINARY.suffix, library, "catalogue.json",
+             "metagenConfig.cmake", "metagenConfigVersion.cmake", "metagenTargets.cmake",
+             "MetagenHost.cmake", "MetagenTables.cmake", "handlers.h", "load.h", "meta.h",
+             "table_reader.h", "LICENSE"}, files)
         for path in self.package_folder().glob("*.cmake"):
             self.assertNotIn(str(ROOT), path.read_text(encoding="utf-8"), path)
 
@@ -98,17 +105,38 @@ class Package(unittest.TestCase):
         self.assertIn("Generating handlers.inl", self.build())
         self.assertIn("no work to do", self.build())
 
+    def replace_document(self, text):
+        """For the rest of the test."""
+        old = self.document.read_text(encoding="utf-8")
+        self.document.write_text(text, encoding="utf-8")
+        self.addCleanup(self.build)
+        self.addCleanup(self.document.write_text, old, encoding="utf-8")
+
+    def assert_names_document_and_schema(self, printed):
+        [schema] = self.prefix.rglob("combined.schema.json")
+        self.assertIn(f"  {self.document}\n", printed)
+        self.assertIn(f'  jsonschema --output pretty -i "{self.document}" "{schema}"\n', printed)
+
     def test_a_document_that_is_refused_fails_the_build(self):
         self.build()
-        text = self.document.read_text(encoding="utf-8")
-        self.document.write_text(text[:1000], encoding="utf-8")
-        self.addCleanup(self.document.write_text, text, encoding="utf-8")
-        self.assertIn("metagen genm: the given json file has errors inside\n",
-                      self.build(fails=True))
+        self.replace_document(self.document.read_text(encoding="utf-8")[:1000])
+        printed = self.build(fails=True)
+        self.assertIn("metagen genm: the given json file has errors inside\n", printed)
+        self.assert_names_document_and_schema(printed)
         self.build(fails=True)  # and not only at first
-        self.document.write_text(text, encoding="utf-8")
-        self.build()
+        self.doCleanups()
         self.assert_host_agrees()
+
+    def test_a_table_that_nobody_can_read_fails_the_build(self):
+        self.replace_document(json.dumps({"version": 1, "plugins": {"Light": {"params": {
+            "on": {"type": "bool"},
+            "size": {"type": "float", "defaultValue": "1", "scaling": {
+                "unit": 1, "conditions": [{"op": 1, "ref": "on", "value": True}]}}}}}}))
+        printed = self.build(fails=True)
+        self.assertIn("meta.generated.bin: at byte 128: the table ends too early\n", printed)
+        self.assertIn('scaling condition whose "value" is', printed)
+        self.assert_names_document_and_schema(printed)
+        self.build(fails=True)
 
 
 if __name__ == "__main__":
