@@ -11,7 +11,7 @@
 #
 # metagen loads the SDK's library in every run. SDK_ROOT is the SDK's root folder, the one with
 # `bin` below; METAGEN_REPLAY_SDK_ROOT, which the package sets, serves where no SDK is installed.
-# Without SDK_ROOT the environment of the build decides.
+# Without SDK_ROOT the environment of the build decides; an empty one is refused.
 #
 # A metagen for another system than the build machine's is run through the program (with its
 # arguments) that METAGEN_LAUNCHER names, by default CMAKE_CROSSCOMPILING_EMULATOR.
@@ -21,6 +21,12 @@ function(metagen_generate_tables)
     if(NOT arg_TARGET OR NOT arg_DOCUMENT OR arg_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "metagen_generate_tables takes TARGET <target>, "
             "DOCUMENT <combined.json> and, optionally, SDK_ROOT <folder>")
+    endif()
+    if("SDK_ROOT" IN_LIST ARGV AND "${arg_SDK_ROOT}" STREQUAL "")
+        message(FATAL_ERROR "metagen_generate_tables(TARGET ${arg_TARGET}): SDK_ROOT is empty. "
+            "It takes the SDK's root folder, the one with bin below. Where no SDK is installed, "
+            "SDK_ROOT \"\${METAGEN_REPLAY_SDK_ROOT}\" takes the replay SDK. Without SDK_ROOT, "
+            "the environment variable QYRA_SDK names the folder when the build runs.")
     endif()
     cmake_path(ABSOLUTE_PATH arg_DOCUMENT)
     set(environment "")

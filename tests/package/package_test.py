@@ -105,6 +105,24 @@ class Package(unittest.TestCase):
         self.assertIn("Generating handlers.inl", self.build())
         self.assertIn("no work to do", self.build())
 
+    def test_an_empty_sdk_root_is_refused(self):
+        for argument in ('SDK_ROOT ""', "SDK_ROOT", "SDK_ROOT ${QYRA_ROOT}"):
+            with self.subTest(argument), tempfile.TemporaryDirectory() as name:
+                project = pathlib.Path(name)
+                (project / "main.cpp").touch()
+                (project / "CMakeLists.txt").write_text(f"""\
+cmake_minimum_required(VERSION 3.25)
+project(host LANGUAGES CXX)
+find_package(metagen REQUIRED)
+add_executable(host main.cpp)
+metagen_generate_tables(TARGET host DOCUMENT combined.json {argument})
+""")
+                printed = self.run_cmake("-S", project, "-B", project / "build",
+                                         f"-Dmetagen_DIR={self.package_folder()}", fails=True)
+                self.assertIn("metagen_generate_tables(TARGET host): SDK_ROOT is empty.", printed)
+                self.assertIn("METAGEN_REPLAY_SDK_ROOT", printed)
+                self.assertIn("QYRA_SDK", printed)
+
     def replace_document(self, text):
         """For the rest of the test."""
         old = self.document.read_text(encoding="utf-8")
