@@ -105,6 +105,18 @@ class Package(unittest.TestCase):
         self.assertIn("Generating handlers.inl", self.build())
         self.assertIn("no work to do", self.build())
 
+    def test_a_host_of_few_lines_reads_its_first_record(self):
+        project = pathlib.Path(__file__).resolve().parent / "first_record"
+        lines = [line for path in project.iterdir() for line in path.read_text().splitlines()]
+        self.assertLess(len(lines), 40)
+        folder = self.folder / "first record"
+        self.run_cmake("-S", project, "-B", folder, f"-Dmetagen_DIR={self.package_folder()}",
+                       f"-DDOCUMENT={GOLDEN / 'combine' / 'bundled' / 'combined.json'}",
+                       "-DCMAKE_CXX_FLAGS=-std=c++17 -Wall -Wextra -Wpedantic -Wconversion -Werror")
+        self.run_cmake("--build", folder)
+        self.assertEqual(["light AmbientLight: color color"] * 2,
+                         self.run_host(folder / "first_record", folder=folder))
+
     def test_an_empty_sdk_root_is_refused(self):
         for argument in ('SDK_ROOT ""', "SDK_ROOT", "SDK_ROOT ${QYRA_ROOT}"):
             with self.subTest(argument), tempfile.TemporaryDirectory() as name:
