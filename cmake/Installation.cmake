@@ -32,6 +32,7 @@ install(FILES CHANGELOG.md LICENSE NOTICE DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 install(FILES
     docs/bin-formats.md
     docs/handlers.ksy
+    docs/inl-vocabulary.md
     docs/integrating.md
     docs/manual.md
     docs/meta.ksy
