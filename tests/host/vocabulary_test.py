@@ -24,6 +24,8 @@ WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wshadow", "-Wconversion", "-Werr
 PAGE = (ROOT / "docs" / "inl-vocabulary.md").read_text(encoding="utf-8")
 SEEDS = range(60)
 
+_MAIN = re.compile(r"^<!-- file: renderer/main.cpp -->\n```cpp\n(.*?)^```$",
+                   re.MULTILINE | re.DOTALL)
 _BODY = re.compile(r"^<!-- body of: (\w+) -->\n```cpp\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 _OWN = re.compile(r"^<!-- own vocabulary -->\n```cpp\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 
@@ -156,6 +158,13 @@ class VocabularyTest(unittest.TestCase):
 
     def test_all_documents_compile_with_the_headers_for_hosts(self):
         self.assert_compiles(self.LIBRARY, self.generated)
+
+    def test_the_main_of_the_guide_compiles_with_any_document(self):
+        [main] = _MAIN.findall((ROOT / "docs" / "integrating.md").read_text(encoding="utf-8"))
+        for meta, handlers in zip(self.generated["Meta"][:3], self.generated["HandlerMeta"][:3]):
+            (self.folder / "meta.inl").write_text(meta, encoding="utf-8")
+            (self.folder / "handlers.inl").write_text(handlers, encoding="utf-8")
+            self.assert_source_compiles(main)
 
     def test_all_documents_compile_with_types_of_a_hosts_own(self):
         [own] = _OWN.findall(PAGE)
