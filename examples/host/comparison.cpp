@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "description.h"
 
@@ -54,9 +55,11 @@ bool sameNumbers(const std::vector<Number>& compiled, const std::vector<Number>&
                       [](Number left, Number right) { return sameNumber(left, right); });
 }
 
-/// The table has the whole part, the source six digits.
+/// The table has the whole part where 32 bits hold it, the source six digits.
 bool sameVersion(double compiled, double loaded) {
-    return std::trunc(compiled) == loaded ||
+    const double lowest = std::numeric_limits<std::int32_t>::min();
+    const bool isHeld = std::trunc(compiled) >= lowest && std::trunc(compiled) < -lowest;
+    return (isHeld ? std::trunc(compiled) : lowest) == loaded ||
            describe(static_cast<float>(compiled)) == describe(static_cast<float>(loaded));
 }
 
@@ -82,7 +85,7 @@ struct SameDefault {
     bool operator()(const std::string& compiled) const {
         const auto* text = std::get_if<std::string>(&loaded);
         if (text == nullptr) return isUnreadable(compiled, loaded);
-        return text->substr(0, text->find('\0')) == compiled;
+        return compiled == *text || compiled == text->substr(0, text->find('\0'));
     }
     bool operator()(const TypeOnly& compiled) const {
         const auto* type = std::get_if<TypeOnly>(&loaded);

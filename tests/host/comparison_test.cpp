@@ -92,8 +92,10 @@ TEST(DefaultComparison, AnUnreadableDefaultIsAnEmptyTextInTheSource) {
     expectDifferent("", NumberArray<float>{floatList, {}});
 }
 
-TEST(DefaultComparison, ATextEndsAtItsFirstNulInTheSource) {
+TEST(DefaultComparison, ATextMayEndAtItsFirstNulInTheSource) {
     expectSame("before", std::string("before\0after", 12));
+    expectSame(std::string("before\0after", 12), std::string("before\0after", 12));
+    expectDifferent(std::string("before\0else", 11), std::string("before\0after", 12));
     expectDifferent("before", std::string("bef\0re", 6));
 }
 
@@ -138,6 +140,9 @@ TEST(Comparison, Versions) {
     EXPECT_EQ(differences(Meta(2.9), Meta(2)), Lines());
     EXPECT_EQ(differences(Meta(-2.9), Meta(-2)), Lines());
     EXPECT_EQ(differences(Meta(1.23457e6), Meta(1234567)), Lines());
+    EXPECT_EQ(differences(Meta(1e20), Meta(-2147483648.0)), Lines());
+    EXPECT_EQ(differences(Meta(1e20), Meta(2147483647)).size(), 1U);
+    EXPECT_EQ(differences(Meta(3), Meta(-2147483648.0)).size(), 1U);
     EXPECT_EQ(differences(Meta(3), Meta(4)).size(), 1U);
     EXPECT_EQ(differences(HandlerMeta(3), HandlerMeta(4)).size(), 1U);
 }
