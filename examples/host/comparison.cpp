@@ -85,7 +85,7 @@ struct SameDefault {
     bool operator()(const std::string& compiled) const {
         const auto* text = std::get_if<std::string>(&loaded);
         if (text == nullptr) return isUnreadable(compiled, loaded);
-        return compiled == *text || compiled == text->substr(0, text->find('\0'));
+        return compiled == *text;
     }
     bool operator()(const TypeOnly& compiled) const {
         const auto* type = std::get_if<TypeOnly>(&loaded);

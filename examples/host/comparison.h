@@ -17,7 +17,6 @@ using namespace metagen::host;
 /// - the source shares an array between 0 and -0;
 /// - a default that the generator could not read is an empty text in the source, and an array
 ///   without numbers in the table;
-/// - a text may end at its first NUL in the source;
 /// - a plugin without category has an empty one in the source, and two double quotes in the table;
 /// - the table has the whole part of the version, or the lowest integer where none holds it.
 std::vector<std::string> differences(const HandlerMeta& compiled, const HandlerMeta& loaded);

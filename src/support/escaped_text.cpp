@@ -41,7 +41,7 @@ void appendEscaped(std::string& out, std::string_view text) {
     while (true) {
         const char* const special = findSpecial<'"', '\\'>(rest, end);
         out.append(rest, special);
-        if (special == end || *special == '\0') return;
+        if (special == end) return;
         appendEscapedByte(out, *special);
         rest = special + 1;
     }

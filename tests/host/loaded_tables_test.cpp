@@ -74,7 +74,7 @@ TEST(LoadedTables, AreRefusedUnderAnotherTag) {
 }
 
 /// Every change of a byte is refused or shows as a difference, but for a few: those in the last
-/// digits of a float, and those after a text's first NUL.
+/// digits of a float.
 template <typename Load, typename Tables>
 void expectChangesNoticed(const Load& load, const std::string& bytes, const Tables& compiled) {
     std::size_t unnoticed = 0;

@@ -275,7 +275,7 @@ SHORT_ESCAPES = {8: b"\\b", 9: b"\\t", 10: b"\\n", 12: b"\\f", 13: b"\\r", 34: b
 
 def escaped(text):
     out = b""
-    for byte in text.split(b"\0")[0]:
+    for byte in text:
         if byte in SHORT_ESCAPES:
             out += SHORT_ESCAPES[byte]
         else:

@@ -25,7 +25,9 @@ TEST(EscapedText, BytesFrom127UpAsTheyAre) {
     EXPECT_EQ(escaped("\x7f\x80\xc3\xa4\xff"), "\x7f\x80\xc3\xa4\xff");
 }
 
-TEST(EscapedText, EndsAtTheFirstNul) { EXPECT_EQ(escaped(std::string_view("ab\0cd", 5)), "ab"); }
+TEST(EscapedText, ANulIsOneMoreControlByte) {
+    EXPECT_EQ(escaped(std::string_view("ab\0cd\0", 6)), "ab\\u0000cd\\u0000");
+}
 
 TEST(EscapedText, AppendsToWhatIsThere) {
     std::string out = "x";
