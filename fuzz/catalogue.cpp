@@ -22,7 +22,9 @@ void lookUpEverything(const replay::Catalogue& catalogue) {
     }
 }
 
-void readOneCatalogue(std::string_view text) { lookUpEverything(*replay::readCatalogue(std::string(text))); }
+void readOneCatalogue(std::string_view text) {
+    lookUpEverything(*replay::readCatalogue(std::string(text)));
+}
 
 }  // namespace
 

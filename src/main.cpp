@@ -3,7 +3,7 @@
 #include "cli/standard_streams.h"
 
 int main(int argumentCount, char** arguments) {
-    metagen::openMissingStandardStreams();
+    metagen::prepareStandardStreams();
     metagen::installAbnormalEnd();
     return metagen::runDriver(argumentCount, arguments);
 }

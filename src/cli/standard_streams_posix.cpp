@@ -1,11 +1,14 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <csignal>
+
 #include "cli/standard_streams.h"
 
 namespace metagen {
 
-void openMissingStandardStreams() {
+void prepareStandardStreams() {
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     for (int number = STDIN_FILENO; number <= STDERR_FILENO; ++number) {
         if (fcntl(number, F_GETFD) != -1) continue;
         // The lowest free number is taken, and that is this one.

@@ -2,7 +2,8 @@
 
 namespace metagen {
 
-// The C library there keeps the first three numbers for the standard streams, open or not.
-void openMissingStandardStreams() {}
+// The C library there keeps the first three numbers for the standard streams, open or not, and
+// knows no signal for a pipe without a reader.
+void prepareStandardStreams() {}
 
 }  // namespace metagen

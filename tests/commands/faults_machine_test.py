@@ -1,7 +1,7 @@
 """Faults of the machine: outputs that can't be written, odd paths, odd inputs, closed streams."""
 
+import json
 import os
-import signal
 import shutil
 import subprocess
 import tempfile
@@ -230,12 +230,15 @@ class ClosedStreams(MachineTest):
                 self.assert_text_file("output.bin", "")
 
     def test_a_reader_that_went_away(self):
-        # The document is complete before the summary meets the broken pipe.
+        # The summary, of which nobody reads a line, is longer than any buffer on its way.
+        names = [f"Plugin{number}" for number in range(5_000)]
+        self.write("catalogue.json", json.dumps({"plugins": dict.fromkeys(names, {})}))
+        self.write("stripped.json", json.dumps({"plugins": dict.fromkeys(names)}))
         reader, writer = os.pipe()
         os.close(reader)
         with open(writer, "wb") as closed:
             status = self.run_without([], *self.arguments("combine", "output"), stdout=closed)
-        self.assertEqual(-signal.SIGPIPE, status)
+        self.assertEqual(0, status)
         self.assert_text_file("output", '{"plugins":{}}')
 
 
