@@ -38,6 +38,10 @@ PLATFORM_MACRO = re.compile(
     r"|__declspec|__stdcall|__cdecl|WINAPI)\b")
 PLATFORM_FILE = re.compile(r"_(win32|posix)\.cpp$")
 
+# Who may name the SDK's entry points; everybody else asks the classes of src/sdk.
+ENTRY_POINT_FOLDERS = {"sdk", "replay_sdk", "benchmarks"}
+ENTRY_POINT = re.compile(r"\bentryPoints\(|\bQyra_\w+|\bC_memory_free\b")
+
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 
 LONGEST_FILE = 350
@@ -55,6 +59,9 @@ def violations(path, text):
     if not PLATFORM_FILE.search(path):
         found += [f"{path}: {macro} belongs in a _win32.cpp or _posix.cpp file"
                   for macro in sorted(set(PLATFORM_MACRO.findall(text)))]
+    if path.split("/")[0] not in ENTRY_POINT_FOLDERS:
+        found += [f"{path}: {name} belongs in src/sdk"
+                  for name in sorted(set(ENTRY_POINT.findall(text)))]
     return found + oversizes(path, text)
 
 
@@ -133,6 +140,13 @@ class Rules(unittest.TestCase):
         self.assert_violations([], "sdk/a_win32.cpp", "#ifdef _WIN32\n")
         self.assert_violations(["sdk/a.cpp: _WIN32 belongs in a _win32.cpp or _posix.cpp file"],
                                "sdk/a.cpp", "#ifdef _WIN32\n#if defined(_WIN32)\n")
+
+    def test_the_entry_points_stand_behind_one_wall(self):
+        self.assert_violations([], "sdk/a.cpp", "entryPoints().Qyra_enableFrameBuffer(false);\n")
+        self.assert_violations(
+            ["metadata/a.cpp: Qyra_enableFrameBuffer belongs in src/sdk",
+             "metadata/a.cpp: entryPoints( belongs in src/sdk"],
+            "metadata/a.cpp", "entryPoints().Qyra_enableFrameBuffer(false);\n")
 
     def test_files_and_lines_are_bounded(self):
         self.assert_violations(["diff/a.cpp:1: 101 columns"], "diff/a.cpp", "/" * 101 + "\n")
