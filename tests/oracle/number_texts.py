@@ -86,7 +86,7 @@ def stof(text):
     match = _NUMBER.match(text.split(b"\0")[0])
     exact = _exact(match)
     overflow = math.isinf(number) and not isinstance(exact, float)
-    underflow = not isinstance(exact, float) and exact != 0 and abs(number) < 2.0 ** -126
+    underflow = not isinstance(exact, float) and exact != 0 and number == 0
     if overflow or underflow:
         raise StandardError("stof argument out of range")
     return number
