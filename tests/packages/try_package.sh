@@ -1,3 +1,4 @@
+# shellcheck shell=sh
 # Run by deb_test.py in a clean root, in a folder with metagen.deb and stripped.json: installs the
 # package, takes the road from the SDK to the tables, and removes it. What it leaves there is looked
 # at outside.
