@@ -4,8 +4,7 @@
 
 #include "fuzz_target.h"
 #include "metadata/default_value_parser.h"
-#include "metadata/list_tokenizer.h"
-#include "support/number_reader.h"
+#include "support/numbers.h"
 
 using namespace metagen;
 

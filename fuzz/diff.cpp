@@ -1,5 +1,5 @@
 // Two documents compared: a report is empty exactly when they are equal.
-#include "diff/object_difference.h"
+#include "diff/diff.h"
 
 #include <algorithm>
 #include <string>

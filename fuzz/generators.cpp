@@ -2,12 +2,10 @@
 #include <string>
 
 #include "fuzz_target.h"
-#include "genh/handler_tables.h"
-#include "genm/file_tables.h"
-#include "genm/registrations.h"
-#include "genm/scaling_table.h"
+#include "genh/genh.h"
+#include "genm/tables.h"
 #include "json/document.h"
-#include "model/handler_model.h"
+#include "model/handlers.h"
 #include "model/meta_model.h"
 
 using namespace metagen;

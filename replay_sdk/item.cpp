@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "support/numeric.h"
+#include "support/numbers.h"
 
 namespace metagen::replay {
 

@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "support/number_text.h"
+#include "support/numbers.h"
 
 namespace metagen::replay {
 

@@ -1,6 +1,5 @@
-#include "cli/abnormal_end.h"
 #include "cli/driver.h"
-#include "cli/standard_streams.h"
+#include "cli/process.h"
 
 int main(int argumentCount, char** arguments) {
     metagen::prepareStandardStreams();

@@ -9,11 +9,10 @@
 #include "support/text_file.h"
 
 int main(int argumentCount, char** arguments) {
-    using namespace metagen;
-    std::list<json::Document> documents;
+    std::list<metagen::json::Document> documents;
     for (int index = 1; index < argumentCount; ++index) {
-        File file = openForReading(arguments[index]);
-        if (!file || !documents.emplace_back(readOrExit(std::move(file), "")).isValid()) {
+        metagen::File file = metagen::openForReading(arguments[index]);
+        if (!file || !documents.emplace_back(metagen::readOrExit(std::move(file), "")).isValid()) {
             static_cast<void>(std::fprintf(stderr, "%s: not a document\n", arguments[index]));
             return 1;
         }

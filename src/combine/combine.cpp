@@ -4,12 +4,9 @@
 #include <string>
 #include <utility>
 
+#include "combine/checks.h"
 #include "combine/combine_report.h"
-#include "combine/combined_document.h"
 #include "combine/merge.h"
-#include "combine/name_checks.h"
-#include "combine/summary.h"
-#include "combine/texture_handler_checks.h"
 #include "json/document.h"
 #include "metadata/base_document.h"
 #include "support/end_run.h"

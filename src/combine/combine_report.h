@@ -1,4 +1,4 @@
-// What `combine` finds out while it merges and checks; the summary prints it.
+// What `combine` finds out while it merges and checks, and the summary of it.
 #pragma once
 
 #include <string>
@@ -37,5 +37,10 @@ struct CombineReport {
     /// Records a value that the stripped document repeats.
     void recordDuplication(std::string_view key, std::string_view liveText);
 };
+
+/// Six sections, each a heading with the number of entries and the numbered entries, separated by
+/// empty lines. The changes and the handler check failures are sorted in byte order; deprecations
+/// and duplications deliberately keep the order of the merge.
+std::string summaryText(CombineReport report);
 
 }  // namespace metagen

@@ -1,8 +1,10 @@
-// The merge of a stripped document over the live one.
+// The merge of a stripped document over the live one, and the writer of what comes of it.
 #pragma once
 
+#include <cstddef>
+#include <string>
+
 #include "combine/combine_report.h"
-#include "json/arena.h"
 #include "json/value.h"
 
 namespace metagen {
@@ -14,5 +16,11 @@ namespace metagen {
 /// type mismatch where a stripped object meets a live leaf.
 json::Object merge(json::Object stripped, json::Object live, json::Arena& arena,
                    CombineReport& report);
+
+/// The text of a combined document. Objects in objects have their members in the combined key order
+/// (see `CombinedKeyLess`); of keys that are equal in it only the first in byte order is written.
+/// Objects in arrays are written as the JSON library writes them, all members in byte order. Room
+/// is made for the expected size, in bytes.
+std::string combinedText(json::Object document, std::size_t expectedSize = 0);
 
 }  // namespace metagen

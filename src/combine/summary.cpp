@@ -1,10 +1,10 @@
-#include "combine/summary.h"
+#include "combine/combine_report.h"
 
 #include <algorithm>
 #include <string_view>
 #include <vector>
 
-#include "support/number_text.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

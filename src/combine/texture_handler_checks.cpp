@@ -1,4 +1,4 @@
-#include "combine/texture_handler_checks.h"
+#include "combine/checks.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/handler_kinds.h"
+#include "model/handlers.h"
 #include "support/end_run.h"
 
 namespace metagen {

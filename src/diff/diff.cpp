@@ -3,7 +3,6 @@
 #include <string>
 #include <utility>
 
-#include "diff/object_difference.h"
 #include "json/document.h"
 #include "support/end_run.h"
 #include "support/text_file.h"

@@ -3,12 +3,10 @@
 #include <string>
 #include <utility>
 
-#include "genh/handler_tables.h"
 #include "json/document.h"
-#include "model/handler_model.h"
+#include "model/handlers.h"
 #include "support/end_run.h"
-#include "support/number_text.h"
-#include "support/numeric.h"
+#include "support/numbers.h"
 #include "support/text_file.h"
 
 namespace metagen {

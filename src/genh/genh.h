@@ -1,5 +1,13 @@
-// The command `genh`.
+// The command `genh`, and its two outputs: the statements that the host application pastes into a
+// function body, and the table that it loads. Both tell of the same plugins and parameters in the
+// same order.
 #pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "model/handlers.h"
 
 namespace metagen {
 
@@ -9,5 +17,11 @@ namespace metagen {
 /// throws as json::at and json::asObject do. Both outputs are opened before the document is
 /// parsed, and stay behind empty.
 void genh(const char* inputPath, const char* outputBase);
+
+/// Appends the statements of every plugin, an empty line before each.
+void appendHandlerStatements(std::string& out, const std::vector<HandlerPlugin>& plugins);
+
+/// The binary table: tag, version, plugins.
+std::string handlerTable(std::int32_t version, const std::vector<HandlerPlugin>& plugins);
 
 }  // namespace metagen

@@ -1,7 +1,7 @@
-#include "genh/handler_tables.h"
+#include "genh/genh.h"
 
 #include "model/binary_table.h"
-#include "support/number_text.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

@@ -2,8 +2,8 @@
 
 #include "model/binary_table.h"
 #include "sdk/parameter_type.h"
-#include "support/escaped_text.h"
-#include "support/number_text.h"
+#include "support/escapes.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

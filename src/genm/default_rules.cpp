@@ -6,7 +6,7 @@
 #include "metadata/default_value_parser.h"
 #include "sdk/parameter_type.h"
 #include "support/end_run.h"
-#include "support/number_reader.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

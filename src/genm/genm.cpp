@@ -4,16 +4,13 @@
 #include <string_view>
 #include <utility>
 
-#include "genm/file_tables.h"
-#include "genm/registrations.h"
-#include "genm/scaling_table.h"
+#include "genm/tables.h"
 #include "genm/value_arrays.h"
 #include "json/document.h"
 #include "model/binary_table.h"
 #include "model/meta_model.h"
 #include "support/end_run.h"
-#include "support/number_text.h"
-#include "support/numeric.h"
+#include "support/numbers.h"
 #include "support/text_file.h"
 
 namespace metagen {

@@ -1,8 +1,8 @@
-#include "genm/registrations.h"
+#include "genm/tables.h"
 
 #include "genm/default_record.h"
 #include "model/binary_table.h"
-#include "support/number_text.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

@@ -1,11 +1,10 @@
-#include "genm/scaling_table.h"
+#include "genm/tables.h"
 
-#include "genm/descriptor.h"
+#include "genm/default_record.h"
 #include "model/binary_table.h"
 #include "sdk/parameter_type.h"
 #include "support/end_run.h"
-#include "support/number_text.h"
-#include "support/numeric.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

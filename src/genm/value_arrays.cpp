@@ -5,8 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "support/number_text.h"
-#include "support/numeric.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

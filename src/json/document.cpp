@@ -41,6 +41,7 @@ public:
     [[nodiscard]] const Value& result() const { return value; }
 
     // The rest is what the library calls.
+    // NOLINTBEGIN(readability-identifier-naming): by these names
 
     bool set_null() { return set(Value()); }
     bool set_bool(bool boolean) { return set(Value(boolean)); }
@@ -97,6 +98,7 @@ public:
         ++depthLeft;
         return true;
     }
+    // NOLINTEND(readability-identifier-naming)
 
 private:
     using MemberIterator = std::vector<Member>::iterator;

@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "json/arena.h"
 #include "json/value.h"
 
 namespace metagen::json {

@@ -13,8 +13,8 @@
 
 #include <picojson.h>
 
-#include "json/arena.h"
-#include "support/special_bytes.h"
+#include "json/value.h"
+#include "support/escapes.h"
 
 namespace metagen::json {
 

@@ -6,7 +6,7 @@
 
 #include <picojson.h>
 
-#include "support/special_bytes.h"
+#include "support/escapes.h"
 
 namespace metagen::json {
 

@@ -3,7 +3,6 @@
 #include <string_view>
 #include <utility>
 
-#include "metadata/plugin_object.h"
 #include "sdk/parameter_type.h"
 #include "support/text_file.h"
 

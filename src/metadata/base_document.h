@@ -7,11 +7,41 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "metadata/key_order.h"
 #include "sdk/renderer.h"
 
 namespace metagen {
+
+/// What a plugin's category bits come to.
+struct CategoryResolution {
+    /// The category's name; none for a plugin without category and for a category without name.
+    std::optional<std::string_view> name;
+    /// The bits can't be reconciled.
+    bool conflict = false;
+    /// After a conflict, the bits that reconciling left; may be none.
+    std::uint32_t conflictingBits = 0;
+};
+
+/// The name of a category code, or none.
+std::optional<std::string_view> categoryName(int code);
+
+/// Reconciles the category bits (bit n stands for category code n; bits from 20 up don't count).
+CategoryResolution resolveCategory(std::uint64_t bits);
+
+struct PluginObject {
+    std::string text;
+    /// A type code that the vocabulary has no name for: the document can't be written.
+    std::optional<std::int32_t> namelessCode = {};
+};
+
+/// Asks the renderer about the class: its parameters, then its category. Names stand unescaped, the
+/// parameters in the combined order; of names that are equal in it the first is kept. Throws
+/// std::invalid_argument for a default value that its guide can't describe. A class whose
+/// categories can't be reconciled is reported on standard output and ends the process with
+/// status 1.
+PluginObject readPluginObject(const Renderer& renderer, const std::string& className);
 
 class BaseDocument {
 public:

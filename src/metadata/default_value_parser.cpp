@@ -4,9 +4,7 @@
 #include <array>
 #include <optional>
 
-#include "metadata/list_tokenizer.h"
-#include "support/number_reader.h"
-#include "support/numeric.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

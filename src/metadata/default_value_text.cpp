@@ -7,7 +7,7 @@
 #include "sdk/parameter_type.h"
 #include "sdk/renderer.h"
 #include "sdk/sdk_memory.h"
-#include "support/number_text.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

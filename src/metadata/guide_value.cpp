@@ -1,11 +1,11 @@
-#include "metadata/guide_value.h"
+#include "metadata/default_value_text.h"
 
 #include <algorithm>
 #include <array>
 #include <stdexcept>
 
 #include "sdk/parameter_type.h"
-#include "support/numeric.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

@@ -1,8 +1,8 @@
-#include "metadata/list_tokenizer.h"
+#include "metadata/default_value_parser.h"
 
 #include <algorithm>
 
-#include "support/number_reader.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

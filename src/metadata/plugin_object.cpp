@@ -1,4 +1,4 @@
-#include "metadata/plugin_object.h"
+#include "metadata/base_document.h"
 
 #include <algorithm>
 #include <numeric>
@@ -6,13 +6,11 @@
 #include <utility>
 #include <vector>
 
-#include "metadata/category.h"
 #include "metadata/default_value_text.h"
-#include "metadata/guide_value.h"
 #include "metadata/key_order.h"
 #include "sdk/parameter_type.h"
 #include "support/end_run.h"
-#include "support/escaped_text.h"
+#include "support/escapes.h"
 
 namespace metagen {
 

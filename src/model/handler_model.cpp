@@ -1,11 +1,11 @@
-#include "model/handler_model.h"
+#include "model/handlers.h"
 
 #include <algorithm>
 #include <string>
 #include <utility>
 
 #include "metadata/default_value_parser.h"
-#include "support/number_reader.h"
+#include "support/numbers.h"
 
 namespace metagen {
 

@@ -5,7 +5,7 @@
 
 #include "sdk/parameter_type.h"
 #include "support/end_run.h"
-#include "support/numeric.h"
+#include "support/numbers.h"
 
 namespace metagen {
 
@@ -97,9 +97,14 @@ void readParameters(json::Object plugin, std::string_view key, std::uint32_t ori
 void mergeUserData(std::vector<MetaParameter>& parameters, std::size_t paramCount) {
     if (parameters.size() == paramCount) return;
     const auto userData = parameters.begin() + static_cast<std::ptrdiff_t>(paramCount);
-    std::ranges::inplace_merge(parameters, userData, {}, &MetaParameter::name);
-    const auto repeated = std::ranges::unique(parameters, {}, &MetaParameter::name);
-    parameters.erase(repeated.begin(), repeated.end());
+    const auto less = [](const MetaParameter& left, const MetaParameter& right) {
+        return left.name < right.name;
+    };
+    const auto equal = [](const MetaParameter& left, const MetaParameter& right) {
+        return left.name == right.name;
+    };
+    std::inplace_merge(parameters.begin(), userData, parameters.end(), less);
+    parameters.erase(std::unique(parameters.begin(), parameters.end(), equal), parameters.end());
 }
 
 MetaPlugin readPlugin(std::string_view name, json::Object object) {

@@ -6,7 +6,6 @@
 #include <optional>
 
 #include "sdk/library_loader.h"
-#include "sdk/library_path.h"
 
 namespace metagen {
 

@@ -1,6 +1,4 @@
-#include "support/escaped_text.h"
-
-#include "support/special_bytes.h"
+#include "support/escapes.h"
 
 namespace metagen {
 

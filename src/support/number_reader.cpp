@@ -1,4 +1,4 @@
-#include "support/number_reader.h"
+#include "support/numbers.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "support/numeric.h"
+#include "support/numbers.h"
 
 #include <cmath>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "combine/combined_document.h"
+#include "combine/merge.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "combine/summary.h"
+#include "combine/combine_report.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "combine/texture_handler_checks.h"
+#include "combine/checks.h"
 
 #include <gtest/gtest.h>
 

@@ -11,7 +11,7 @@
 
 #include <picojson.h>
 
-#include "diff/object_difference.h"
+#include "diff/diff.h"
 #include "json/document.h"
 
 namespace metagen {

@@ -1,4 +1,4 @@
-#include "diff/object_difference.h"
+#include "diff/diff.h"
 
 #include <gtest/gtest.h>
 

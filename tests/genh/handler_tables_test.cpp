@@ -1,4 +1,4 @@
-#include "genh/handler_tables.h"
+#include "genh/genh.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "genm/file_tables.h"
+#include "genm/tables.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "genm/registrations.h"
+#include "genm/tables.h"
 
 #include <gtest/gtest.h>
 

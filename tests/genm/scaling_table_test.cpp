@@ -1,4 +1,4 @@
-#include "genm/scaling_table.h"
+#include "genm/tables.h"
 
 #include <gtest/gtest.h>
 

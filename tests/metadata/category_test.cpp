@@ -1,4 +1,4 @@
-#include "metadata/category.h"
+#include "metadata/base_document.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "metadata/guide_value.h"
+#include "metadata/default_value_text.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,6 @@
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-#include "metadata/default_value_text.h"
 
 namespace metagen {
 namespace {

@@ -1,4 +1,4 @@
-#include "metadata/list_tokenizer.h"
+#include "metadata/default_value_parser.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "metadata/plugin_object.h"
+#include "metadata/base_document.h"
 
 #include <gtest/gtest.h>
 

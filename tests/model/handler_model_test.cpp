@@ -1,4 +1,4 @@
-#include "model/handler_model.h"
+#include "model/handlers.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "model/reading.h"
-#include "support/number_text.h"
+#include "support/numbers.h"
 
 namespace metagen {
 namespace {

@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "model/reading.h"
-#include "support/number_text.h"
+#include "support/numbers.h"
 
 namespace metagen {
 namespace {

@@ -1,4 +1,4 @@
-#include "sdk/library_path.h"
+#include "sdk/library_loader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "support/escaped_text.h"
+#include "support/escapes.h"
 
 #include <gtest/gtest.h>
 

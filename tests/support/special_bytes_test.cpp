@@ -1,4 +1,4 @@
-#include "support/special_bytes.h"
+#include "support/escapes.h"
 
 #include <gtest/gtest.h>
 

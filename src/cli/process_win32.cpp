@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "cli/abnormal_end.h"
+#include "cli/process.h"
 
 namespace metagen {
 
@@ -18,5 +18,9 @@ void abortProcess() {
     TerminateProcess(GetCurrentProcess(), statusOfAbort);
     std::abort();  // not reached: a process may always terminate itself
 }
+
+// The C library there keeps the first three numbers for the standard streams, open or not, and
+// knows no signal for a pipe without a reader.
+void prepareStandardStreams() {}
 
 }  // namespace metagen

@@ -1,6 +1,8 @@
-// The checks of the merged document that speak for themselves: name clashes and default values.
+// The checks of the merged document: name clashes, default values, and whether parameters, their
+// texture handlers and the handlers' user data fit together.
 #pragma once
 
+#include "combine/combine_report.h"
 #include "json/value.h"
 
 namespace metagen {
@@ -18,5 +20,11 @@ bool reportNameClashes(json::Object plugins);
 /// of them deliberately pass without a look at their values. Throws the JSON library's type
 /// mismatch at what is no object where an object belongs, and no text where a text does.
 void reportUnexpectedDefaults(json::Object plugins);
+
+/// Records every finding in the report's handler check failures, plugin by plugin. Plugins without
+/// user data are not examined. Without "plugins", "Combined Json has no Plugins!" and a line feed
+/// on standard output end the process with status 1. Throws the JSON library's type mismatch at
+/// what is no object where one belongs.
+void checkTextureHandlers(json::Object document, CombineReport& report);
 
 }  // namespace metagen

@@ -2,8 +2,9 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
 
-#include "cli/standard_streams.h"
+#include "cli/process.h"
 
 namespace metagen {
 
@@ -15,5 +16,7 @@ void prepareStandardStreams() {
         static_cast<void>(open("/dev/null", number == STDIN_FILENO ? O_RDONLY : O_WRONLY));
     }
 }
+
+void abortProcess() { std::abort(); }
 
 }  // namespace metagen

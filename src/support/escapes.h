@@ -1,5 +1,5 @@
-// The bytes of a text that don't stand for themselves. Texts are read and escaped in the runs
-// between them, so that finding the next one is what most of the work is.
+// The bytes of a text that don't stand for themselves: found eight bytes at a time, and escaped as
+// the base document and the string literals of generated source do.
 #pragma once
 
 #include <algorithm>
@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string>
+#include <string_view>
 
 namespace metagen {
 
@@ -48,5 +50,10 @@ const char* findSpecial(const char* begin, const char* end) {
         return static_cast<unsigned char>(byte) < firstPlain || ((byte == others) || ...);
     });
 }
+
+/// Appends the text: backspace, tab, line feed, form feed, carriage return, double quote and
+/// backslash as their two-character escapes, any other byte below 32, NUL among them, as \u and
+/// four lower-case hexadecimal digits, every other byte, 128 and above included, as it is.
+void appendEscaped(std::string& out, std::string_view text);
 
 }  // namespace metagen

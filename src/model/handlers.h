@@ -1,13 +1,16 @@
-// The handlers by which a host serves parameters: what documents call each, what the host calls it,
-// and the user data that stand beside the parameter, named after it with a suffix. `combine` checks
-// by these rows, `genh` generates by them.
+// The handlers by which a host serves parameters, and the parameters of a combined document that it
+// serves so.
 #pragma once
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
+
+#include "json/value.h"
 
 namespace metagen {
 
@@ -44,5 +47,31 @@ inline const HandlerKind* findHandlerKind(std::string_view word) {
     const auto kind = std::ranges::find(handler_kind::all, word, &HandlerKind::word);
     return kind == handler_kind::all.end() ? nullptr : *kind;
 }
+
+/// Names are the document's.
+struct HandlerParameter {
+    std::string_view name;
+    const HandlerKind* kind = nullptr;
+    std::array<float, 3> components = {};
+    std::size_t componentCount = 0;
+
+    /// The default as the host is told it: none when it is the host's own default 1 or the kind has
+    /// none, one for a float or a grey colour, otherwise r, g and b.
+    [[nodiscard]] std::span<const float> defaultValue() const {
+        return std::span(components).first(componentCount);
+    }
+};
+
+struct HandlerPlugin {
+    std::string_view name;
+    std::vector<HandlerParameter> parameters;
+};
+
+/// Reads the handler parameters of the plugins, both in byte order of their names; only plugins
+/// that have any. A parameter with another handler, or without user data that its handler needs, is
+/// passed over. A plugin, "params", "userData", a "handler" or a default of the wrong kind throws
+/// the JSON library's type mismatch, a missing default std::out_of_range (see json::at), and one
+/// that is no number what `parseFloat` throws.
+std::vector<HandlerPlugin> readHandlers(json::Object plugins);
 
 }  // namespace metagen
