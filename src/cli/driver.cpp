@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "cli/options.h"
@@ -20,14 +21,6 @@ namespace metagen {
 
 namespace {
 
-constexpr std::string_view usage =
-    " Usage:\n"
-    " dump -o <base.json>\n"
-    " combine -i <stripped.json> -o <combined.json>\n"
-    " diff -l <left.json> -r <right.json> -o <diff.txt>\n"
-    " genh -i <combined.json> -o <code>\n"
-    " genm -i <combined.json> -o <code>\n";
-
 constexpr std::string_view inputMissing = "Input file not specified\n";
 constexpr std::string_view outputMissing = "Output file not specified\n";
 constexpr std::string_view leftMissing = "Left hand side file not specified\n";
@@ -35,6 +28,7 @@ constexpr std::string_view rightMissing = "Right hand side file not specified\n"
 
 struct Command {
     std::string_view word;
+    std::string_view usage;  ///< the options that it takes
     /// The message for the first file that is not named; empty when all are.
     std::string_view (*missingFile)(const Options& options);
     void (*run)(const Options& options);
@@ -55,19 +49,28 @@ std::string_view missingOfConversion(const Options& options) {
 }
 
 constexpr std::array<Command, 5> commands = {{
-    {"combine", missingOfConversion,
+    {"dump", "-o <base.json>", missingOfDump, [](const Options& options) { dump(options.output); }},
+    {"combine", "-i <stripped.json> -o <combined.json>", missingOfConversion,
      [](const Options& options) { combine(options.input, options.output); }},
-    {"diff", missingOfDiff,
+    {"diff", "-l <left.json> -r <right.json> -o <diff.txt>", missingOfDiff,
      [](const Options& options) { diff(options.left, options.right, options.output); }},
-    {"dump", missingOfDump, [](const Options& options) { dump(options.output); }},
-    {"genh", missingOfConversion,
+    {"genh", "-i <combined.json> -o <code>", missingOfConversion,
      [](const Options& options) { genh(options.input, options.output); }},
-    {"genm", missingOfConversion,
+    {"genm", "-i <combined.json> -o <code>", missingOfConversion,
      [](const Options& options) { genm(options.input, options.output); }},
 }};
 
+void printUsage() {
+    std::string text = " Usage:\n";
+    for (const Command& command : commands) {
+        text.append(" ").append(command.word).append(" ").append(command.usage).append("\n");
+    }
+    print(text);
+}
+
 /// A word that names no command is checked like a conversion, and is then no error.
-constexpr Command unknownCommand = {"", missingOfConversion, [](const Options&) { print(usage); }};
+constexpr Command unknownCommand = {"", "", missingOfConversion,
+                                    [](const Options&) { printUsage(); }};
 
 const Command& findCommand(std::string_view word) {
     const auto command = std::ranges::find(commands, word, &Command::word);
@@ -88,7 +91,7 @@ bool bringUp(std::optional<SdkSession>& session) try {
 
 int runDriver(int argumentCount, const char* const* arguments) {
     if (argumentCount <= 1) {
-        print(usage);
+        printUsage();
         return 0;
     }
     // Brought up before any option is looked at, whatever the word: a broken installation shows
