@@ -3,7 +3,9 @@
 import json
 import unittest
 
-from harness import ABORTED, BROKEN_METADATA, FAILURE, WINDOWS, CommandTest
+from harness import ABORTED, BROKEN_METADATA, FAILURE, TEST_LIBRARIES, WINDOWS, CommandTest
+
+COUNTED_WRITES = TEST_LIBRARIES / "libcounted_writes.so"
 
 STRIPPED_BROKEN = "the given json file has errors inside"
 NO_OBJECT = '"type mismatch! call is<type>() before get<type>()" && is<object>()\n'
@@ -47,6 +49,35 @@ def summary(plugin_types=(), parameter_types=(), defaults=(), failures=(), depre
 
 def user_data(*names):
     return {name: {"type": "float", "defaultValue": "1"} for name in names}
+
+
+class WayOfTheData(CommandTest):
+    NAMES = ("A", 'a"b', "x\\u0041", "a\\", "a\nb")  # some of which JSON would escape
+
+    def run_combine(self, name, **options):
+        self.write("stripped.json", "{}")
+        catalogue = self.write("catalogue.json", json.dumps({"plugins": {name: {}, "B": {}}}))
+        return self.run_metagen(*ARGUMENTS, catalogue=catalogue, **options)
+
+    def test_the_sdk_is_asked_once_whatever_its_names_hold(self):
+        for name in self.NAMES:
+            with self.subTest(name=name):
+                self.run_combine(name)
+                self.assertEqual(1, self.calls_of("Qyra_QyraRenderer_getPluginClassNames"))
+                self.assertEqual(2, self.calls_of("Qyra_QyraRenderer_getClassPropertyNames"))
+
+    def test_a_live_name_means_what_it_means_when_parsed(self):
+        self.assertEqual(0, self.run_combine("x\\u0041").status)
+        self.assert_text_file("combined.json", '{"plugins":{"B":{"type":null,"params":{}},'
+                                               '"xA":{"type":null,"params":{}}}}')
+
+    @unittest.skipUnless(COUNTED_WRITES.exists(), "not with this build")
+    def test_the_document_is_one_write(self):
+        counted = self.folder / "counted"
+        # Without the ledger, which the library writes in the same process.
+        run = self.run_combine("A", environment={
+            "LD_PRELOAD": COUNTED_WRITES, "COUNTED_WRITES": counted, "QYRA_REPLAY_LEDGER": None})
+        self.assertEqual((0, "1"), (run.status, counted.read_text()))
 
 
 class CombineTest(CommandTest):

@@ -28,6 +28,14 @@ class NoCommandWord(CommandTest):
         self.assertEqual(ABORTED, run.status)
 
 
+class Environment(CommandTest):
+    def test_only_the_variables_of_the_sdk_count(self):
+        settings = {"MALLOC_CONF": "stats_print:true,abort_conf:true,nonsense", "LANG": "de_DE",
+                    "POSIXLY_CORRECT": "1"}
+        self.assert_run([], stdout=USAGE, environment=settings)
+        self.assert_run(["dump", "-o", "base.json"], environment=settings)
+
+
 class MissingSdk(CommandTest):
     """The SDK comes up before any option is looked at, whatever the word."""
 

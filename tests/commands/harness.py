@@ -10,6 +10,7 @@ CMake hands over where things are; run by hand, a test takes them from build/rel
 import dataclasses
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
@@ -151,8 +152,15 @@ class CommandTest(unittest.TestCase):
         if run.status in (FAILURE, BROKEN_METADATA):
             findings = [line for line in findings if " not released: " not in line]
             state = "clean" if not findings else state
+        if run.status == 0:
+            self.assertIn("start-up reference counted, frame buffer off", lines)
         expected = "unfinished" if run.status == ABORTED else "clean"
         self.assertEqual((expected, []), (state, findings), run)
+
+    def calls_of(self, entry_point):
+        """How often the last run called it."""
+        calls = re.search(rf"^calls (\d+) {entry_point}$", self._ledger.read_text(), re.MULTILINE)
+        return int(calls[1])
 
     def assert_run(self, arguments, *, status=0, stdout="", stderr="", environment=None,
                    catalogue=None):
