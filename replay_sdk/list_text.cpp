@@ -38,9 +38,10 @@ std::vector<Number> numbersIn(std::string_view text) {
     return numbers;
 }
 
-void appendTriple(std::string& out, std::string_view opening, const float* numbers) {
+void appendNumbers(std::string& out, std::string_view opening, const float* numbers,
+                   std::size_t count = 3) {
     out += opening;
-    for (int index = 0; index < 3; ++index) {
+    for (std::size_t index = 0; index < count; ++index) {
         if (index > 0) out += separator;
         appendGeneral(out, static_cast<double>(numbers[index]));
     }
@@ -49,13 +50,13 @@ void appendTriple(std::string& out, std::string_view opening, const float* numbe
 
 void appendElement(std::string& out, const ParameterType& type, const float* numbers) {
     if (type.code == type_code::transform) {
-        appendTriple(out, "Transform(Matrix(Vector(", numbers);
-        appendTriple(out, ", Vector(", numbers + 3);
-        appendTriple(out, ", Vector(", numbers + 6);
-        appendTriple(out, "), Vector(", numbers + 9);
+        appendNumbers(out, "Transform(Matrix(Vector(", numbers);
+        appendNumbers(out, ", Vector(", numbers + 3);
+        appendNumbers(out, ", Vector(", numbers + 6);
+        appendNumbers(out, "), Vector(", numbers + 9);
         out += ')';
     } else if (type.shape == ValueShape::floats) {
-        appendTriple(out, std::string(type.word) + '(', numbers);
+        appendNumbers(out, std::string(type.word) + '(', numbers, type.components);
     } else {
         appendGeneral(out, static_cast<double>(*numbers));
     }
