@@ -14,8 +14,7 @@ import unittest
 HERE = pathlib.Path(__file__).resolve().parent
 ROOT = HERE.parents[1]
 BUILD = pathlib.Path(os.environ.get("METAGEN_BUILD", ROOT / "build" / "release"))
-sys.path.insert(0, str(HERE.parent / "npm"))
-from node import run_tests  # noqa: E402
+NODE = HERE.parent / "npm" / "node.py"
 
 # Texts that read as a default of each type, flat where a list's elements have to be.
 READABLE = {
@@ -70,7 +69,8 @@ class BinFormats(unittest.TestCase):
             self.assertEqual(expected, self.written(type_name, parameter))
 
     def test_the_descriptions(self):
-        self.assertEqual(0, run_tests(HERE / "bin_formats_test.js"))
+        command = [sys.executable, "-B", NODE, HERE / "bin_formats_test.js"]
+        self.assertEqual(0, subprocess.run(command, check=False).returncode)
 
     def test_what_is_written_for_each_type(self):
         single, lists = tables((ROOT / "docs" / "bin-formats.md").read_text(encoding="utf-8"))
