@@ -21,7 +21,7 @@ void combineDocuments(std::string_view input) {
     const std::string liveBefore = json::compactText(live.root());
 
     CombineReport report;
-    json::Arena arena;
+    Arena arena;
     const json::Object document =
         merge(json::asObject(stripped.root()), json::asObject(live.root()), arena, report);
     fuzz::require(json::compactText(live.root()) == liveBefore, "the live document stays");

@@ -32,7 +32,7 @@ void combine(const char* strippedPath, const char* outputPath) {
     const json::Object liveObject = json::objectOrExit(live.root(), "dumped json is not an object");
 
     CombineReport report;
-    json::Arena arena;
+    Arena arena;
     const json::Object document = merge(strippedObject, liveObject, arena, report);
     const std::string combined =
         combinedText(document, live.text().size() + stripped.text().size());

@@ -14,7 +14,7 @@ constexpr int parameterDepth = 3;
 
 class Merge {
 public:
-    Merge(json::Arena& nodeArena, CombineReport& combineReport)
+    Merge(Arena& nodeArena, CombineReport& combineReport)
         : arena(nodeArena), report(combineReport) {}
 
     json::Object mergeObjects(json::Object stripped, json::Object live, int depth) {
@@ -86,15 +86,14 @@ private:
         }
     }
 
-    json::Arena& arena;
+    Arena& arena;
     CombineReport& report;
     std::vector<json::Member> members;  ///< of all objects that are being merged
 };
 
 }  // namespace
 
-json::Object merge(json::Object stripped, json::Object live, json::Arena& arena,
-                   CombineReport& report) {
+json::Object merge(json::Object stripped, json::Object live, Arena& arena, CombineReport& report) {
     return Merge(arena, report).mergeObjects(stripped, live, 0);
 }
 

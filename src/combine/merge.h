@@ -6,6 +6,7 @@
 
 #include "combine/combine_report.h"
 #include "json/value.h"
+#include "support/arena.h"
 
 namespace metagen {
 
@@ -14,8 +15,7 @@ namespace metagen {
 /// being depth 0) or a parameter or user-data entry (depth 3) out. The result shares with both
 /// documents what only one of them says; what is new lies in the arena. Throws the JSON library's
 /// type mismatch where a stripped object meets a live leaf.
-json::Object merge(json::Object stripped, json::Object live, json::Arena& arena,
-                   CombineReport& report);
+json::Object merge(json::Object stripped, json::Object live, Arena& arena, CombineReport& report);
 
 /// The text of a combined document. Objects in objects have their members in the combined key order
 /// (see `CombinedKeyLess`); of keys that are equal in it only the first in byte order is written.

@@ -15,13 +15,21 @@ namespace {
 
 bool sameKey(const Member& left, const Member& right) { return left.key == right.key; }
 
+/// By the keys' bytes; most keys differ in the first one.
+int compareKeys(const Member& left, const Member& right) {
+    if (left.key.empty() || right.key.empty()) return left.key.compare(right.key);
+    const auto first = static_cast<unsigned char>(left.key.front());
+    const auto other = static_cast<unsigned char>(right.key.front());
+    return first != other ? first - other : left.key.compare(right.key);
+}
+
 /// Equal keys in the order of the document.
 bool comesBefore(const Member& left, const Member& right) {
-    const int order = left.key.compare(right.key);
+    const int order = compareKeys(left, right);
     return order < 0 || (order == 0 && left.value.offset() < right.value.offset());
 }
 
-bool keyNotLess(const Member& left, const Member& right) { return left.key >= right.key; }
+bool keyNotLess(const Member& left, const Member& right) { return compareKeys(left, right) >= 0; }
 
 /// What the library's parser tells of a document, as it has it from its own context for trees. That
 /// one leaves the nesting of objects open and throws numbers beyond a double out of the parser.

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "json/value.h"
+#include "support/arena.h"
 
 namespace metagen::json {
 

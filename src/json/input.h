@@ -14,6 +14,7 @@
 #include <picojson.h>
 
 #include "json/value.h"
+#include "support/arena.h"
 #include "support/escapes.h"
 
 namespace metagen::json {
@@ -28,7 +29,7 @@ template <>
 class picojson::input<metagen::json::BufferIterator> {
 public:
     /// Strings with escapes go to the arena; all others stay where they are.
-    input(std::string_view text, metagen::json::Arena& stringArena)
+    input(std::string_view text, metagen::Arena& stringArena)
         : begin(text.data()),
           position(begin),
           previous(begin),
@@ -132,7 +133,7 @@ private:
     const char* position;
     const char* previous;
     const char* end;
-    metagen::json::Arena& arena;
+    metagen::Arena& arena;
     std::string_view string;
 };
 

@@ -1,5 +1,6 @@
 #include "metadata/base_document.h"
 
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -10,9 +11,14 @@ namespace metagen {
 
 BaseDocument::BaseDocument(const Renderer& renderer) {
     for (std::string& name : renderer.pluginClassNames()) {
-        PluginObject object = readPluginObject(renderer, name);
-        const bool isNew = plugins.try_emplace(std::move(name), std::move(object.text)).second;
-        if (isNew && object.namelessCode) namelessCode = object.namelessCode;
+        const PluginObject object = readPluginObject(renderer, name);
+        const std::size_t count = plugins.size();
+        const auto place = plugins.try_emplace(plugins.end(), std::move(name));  // mostly in order
+        if (plugins.size() == count) continue;
+        // Side by side: the system's allocator searches long for one block for each.
+        const std::span<const char> kept = texts.keep(std::span<const char>(object.text));
+        place->second = {kept.data(), kept.size()};
+        if (object.namelessCode) namelessCode = object.namelessCode;
     }
 }
 

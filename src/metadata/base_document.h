@@ -11,6 +11,7 @@
 
 #include "metadata/key_order.h"
 #include "sdk/renderer.h"
+#include "support/arena.h"
 
 namespace metagen {
 
@@ -61,7 +62,8 @@ private:
     template <typename Append>
     void forEachPiece(const Append& append) const;
 
-    std::map<std::string, std::string, CombinedKeyLess> plugins;  ///< the object of each class
+    Arena texts;
+    std::map<std::string, std::string_view, CombinedKeyLess> plugins;  ///< the object of each class
     std::optional<std::int32_t> namelessCode;
 };
 

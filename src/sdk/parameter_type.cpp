@@ -18,8 +18,8 @@ const ParameterType* findNamedType(std::int32_t code) {
 }  // namespace
 
 const ParameterType* findType(std::int32_t code) {
-    const auto type = std::ranges::find(parameterTypes, code, &ParameterType::code);
-    return type == parameterTypes.end() ? nullptr : &*type;
+    const auto row = static_cast<std::size_t>(code);  // of a negative code beyond all rows
+    return row < parameterTypes.size() ? &parameterTypes[row] : nullptr;
 }
 
 const ParameterType* findElementType(std::int32_t kind) {

@@ -63,6 +63,7 @@ struct ParameterType {
     bool isReadable;
 };
 
+/// In the order of the codes.
 inline constexpr std::array<ParameterType, 18> parameterTypes = {{
     {type_code::integer, "integer", ValueShape::integer, 1, "", "IntList", type_code::integer,
      true},

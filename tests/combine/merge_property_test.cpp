@@ -53,7 +53,7 @@ picojson::object merged(const picojson::object& stripped, const picojson::object
                         CombineReport& report) {
     const json::Document strippedDocument(textOf(stripped));
     const json::Document liveDocument(textOf(live));
-    json::Arena arena;
+    Arena arena;
     const json::Object document = merge(json::asObject(strippedDocument.root()),
                                         json::asObject(liveDocument.root()), arena, report);
     report.currentPlugin = report.currentParameter = {};

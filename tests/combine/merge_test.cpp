@@ -29,7 +29,7 @@ struct Outcome {
 Outcome merged(const std::string& stripped, const std::string& live) {
     const json::Document strippedDocument(stripped);
     const json::Document liveDocument(live);
-    json::Arena arena;
+    Arena arena;
     CombineReport report;
     const json::Object document = merge(json::asObject(strippedDocument.root()),
                                         json::asObject(liveDocument.root()), arena, report);
@@ -224,7 +224,7 @@ TEST(Merge, SharesWhatOnlyOneDocumentSaysAndChangesNeither) {
         R"({"plugins":{"Kept":{"b":{}},"Out":{},"P":{"q":{},"type":"float"}}})");
     const std::string strippedText = json::compactText(stripped.root());
     const std::string liveText = json::compactText(live.root());
-    json::Arena arena;
+    Arena arena;
     CombineReport report;
     const json::Object plugins =
         objectAt(merge(json::asObject(stripped.root()), json::asObject(live.root()), arena, report),
