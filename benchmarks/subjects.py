@@ -106,7 +106,7 @@ def start(bench):
     """The work is as small as it gets: what is left is the start."""
     bench.path("empty.json").write_text('{"version":1,"plugins":{}}', encoding="utf-8")
     return Subject("start", generator(bench, "genh", "empty.json", "empty"),
-                   Program([bench.program("floor_start"), bench.library]))
+                   Program([bench.program("floor_start"), bench.sdk_library]))
 
 
 SUBJECTS = {"parse": parse, "dump": dump, "combine": combine, "diff": diff, "genh": genh, "genm": genm,

@@ -36,7 +36,7 @@ class Workbench:
         self.folder = pathlib.Path(folder) / f"{scale:g}"
         self.metagen = self.build / "metagen"
         self.sdk = self.build / "benchmarks" / "sdk"
-        self.library = next((self.sdk / "bin").iterdir())
+        self.sdk_library = next((self.sdk / "bin").iterdir())
         self.environment = {
             "PATH": os.environ["PATH"], "LANG": "C.UTF-8", "QYRA_SDK": str(self.sdk),
             "QYRA_INVENTED_SCALE": f"{scale:g}", "QYRA_INVENTED_SEED": str(seed)}
@@ -51,7 +51,7 @@ class Workbench:
     def make_documents(self, *, combined=True):
         """base.json and revised.json, which the tool dumps, stripped.json, and combined.json."""
         self.folder.mkdir(parents=True, exist_ok=True)
-        if not self._stands("stripped.json", self.metagen, self.library):
+        if not self._stands("stripped.json", self.metagen, self.sdk_library):
             self.run([self.metagen, "dump", "-o", self.path("base.json")])
             self.run([self.metagen, "dump", "-o", self.path("revised.json")],
                      environment={"QYRA_INVENTED_REVISION": "2"})
