@@ -1,6 +1,7 @@
 """Holds metagen against the independent accounts of its commands, on any number of random
 documents:
 
+    python3 -B tests/oracle/agreement.py --command combine --seeds 0 20000
 
 A seed on which the two disagree is printed with what differs and with its documents, cut down to
 the members that the disagreement takes. The exit status is 0 only when all agree. Where the binary
