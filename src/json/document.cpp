@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <functional>
+#include <iterator>
+#include <optional>
 #include <utility>
 #include <vector>
 
