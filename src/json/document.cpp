@@ -38,7 +38,8 @@ bool keyNotLess(const Member& left, const Member& right) { return compareKeys(le
 /// one leaves the nesting of objects open and throws numbers beyond a double out of the parser.
 class TreeBuilder {
 public:
-    explicit TreeBuilder(Arena& nodeArena) : arena(nodeArena) {}
+    TreeBuilder(Arena& nodeArena, std::vector<RepeatedKey>& repeatedKeys)
+        : arena(nodeArena), repeated(repeatedKeys) {}
 
     /// Reads a value, to be taken from `result`.
     bool parseValue(Input& in) {
@@ -124,11 +125,16 @@ private:
     MemberIterator sorted(MemberIterator first) {
         if (std::adjacent_find(first, members.end(), keyNotLess) == members.end()) return first;
         std::sort(first, members.end(), comesBefore);
+        for (auto same = std::adjacent_find(first, members.end(), sameKey); same != members.end();
+             same = std::adjacent_find(same + 1, members.end(), sameKey)) {
+            repeated.push_back({same->key, same[1].key});
+        }
         const auto firstBackwards = std::make_reverse_iterator(first);
         return std::unique(members.rbegin(), firstBackwards, sameKey).base();
     }
 
     Arena& arena;
+    std::vector<RepeatedKey>& repeated;
     Value value;
     std::vector<Value> elements;           ///< of all arrays that are being read
     std::vector<Member> members;           ///< of all objects that are being read
@@ -144,11 +150,12 @@ bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0
 
 Document::Document(std::string text) : ownText(std::move(text)) {
     Input in(ownText, arena);
-    TreeBuilder builder(arena);
+    TreeBuilder builder(arena, repeated);
     if (ownText.size() <= maximumSize && builder.parseValue(in)) {
         rootValue = builder.result();
     } else {
         lineOfError = in.line();
+        offsetOfError = in.offset();
     }
 }
 

@@ -3,8 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "json/value.h"
 #include "support/arena.h"
@@ -14,6 +16,12 @@ namespace metagen::json {
 /// The deepest nesting of objects and arrays together that a document may have, so that no
 /// document can exhaust the stack.
 inline constexpr std::size_t maximumDepth = 1000;
+
+/// A key that an object has twice: only the later one's value counts.
+struct RepeatedKey {
+    std::string_view earlier;
+    std::string_view later;
+};
 
 /// Owns the text that it was made of; its values refer to that, so it stays where it is.
 class Document {
@@ -31,10 +39,16 @@ public:
     /// The line on which a document that is not valid shows it, counting from 1.
     [[nodiscard]] int errorLine() const { return lineOfError; }
 
+    /// How many bytes were read until then.
+    [[nodiscard]] std::uint32_t errorOffset() const { return offsetOfError; }
+
     /// Null when the document is not valid.
     [[nodiscard]] const Value& root() const { return rootValue; }
 
     [[nodiscard]] const std::string& text() const { return ownText; }
+
+    /// The repeated keys of all objects, in no order; a key that stands three times is there twice.
+    [[nodiscard]] std::span<const RepeatedKey> repeatedKeys() const { return repeated; }
 
     /// Where one of the document's keys begins, in bytes: at its opening quote.
     [[nodiscard]] std::uint32_t offsetOf(std::string_view key) const;
@@ -43,6 +57,8 @@ private:
     std::string ownText;
     Arena arena;  ///< of the nodes, and of the texts that have escapes
     Value rootValue;
+    std::vector<RepeatedKey> repeated;
+    std::uint32_t offsetOfError = 0;
     int lineOfError = 0;
 };
 
@@ -69,9 +85,10 @@ public:
     Place placeOf(const Value& value) { return placeAt(value.offset()); }
     Place placeOf(std::string_view key) { return placeAt(document.offsetOf(key)); }
 
-private:
+    /// The place of a byte of the document, or of its end.
     Place placeAt(std::size_t offset);
 
+private:
     const Document& document;
     std::size_t reached = 0;
     Place place;  ///< of the byte at `reached`

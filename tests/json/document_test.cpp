@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <map>
 #include <string>
 #include <utility>
 
@@ -64,6 +66,37 @@ int lineOfError(std::string text) {
     EXPECT_FALSE(document.isValid());
     EXPECT_TRUE(document.root().isNull());
     return document.errorLine();
+}
+
+std::string upToTheError(const std::string& text) {
+    return text.substr(0, Document(text).errorOffset());
+}
+
+TEST(Document, TellsHowFarItCouldRead) {
+    EXPECT_EQ(upToTheError("{\"a\": 1,\n\"b\": ?}"), "{\"a\": 1,\n\"b\": ");
+    EXPECT_EQ(upToTheError("{\"a\": 1 \"b\": 2}"), "{\"a\": 1 ");
+    EXPECT_EQ(upToTheError("{\"a\": 1"), "{\"a\": 1");
+    EXPECT_EQ(upToTheError("{\"a\": 1}"), "");
+}
+
+/// The repeated keys, each with the offsets of both, by the earlier one.
+std::string repeatedIn(std::string text) {
+    const Document document(std::move(text));
+    std::map<std::uint32_t, std::string> found;
+    for (const auto& [earlier, later] : document.repeatedKeys()) {
+        found[document.offsetOf(earlier)] =
+            std::string(later) + '@' + std::to_string(document.offsetOf(later));
+    }
+    std::string written;
+    for (const auto& [offset, later] : found) written += std::to_string(offset) + ' ' + later + ' ';
+    return written;
+}
+
+TEST(Document, TellsTheKeysThatAreRepeated) {
+    EXPECT_EQ(repeatedIn(R"({"a":1,"b":{"a":2}})"), "");
+    EXPECT_EQ(repeatedIn(R"({"a":1,"b":2,"a":3})"), "1 a@13 ");
+    EXPECT_EQ(repeatedIn(R"({"b":1,"a":2,"a":3,"\u0061":4})"), "7 a@13 13 a@19 ");
+    EXPECT_EQ(repeatedIn(R"([{"b":{"a":1,"a":2}}])"), "7 a@13 ");
 }
 
 TEST(Document, TellsTheLineOfAnError) {
