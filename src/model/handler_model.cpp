@@ -50,20 +50,25 @@ bool hasUserData(const HandlerParameter& parameter, json::Object userData) {
 std::vector<HandlerParameter> readParameters(json::Object params, json::Object userData) {
     std::vector<HandlerParameter> parameters;
     for (const auto& [name, value] : params) {
-        const auto members = value.object();
-        if (!members) continue;
-        const json::Value* handler = json::find(*members, "handler");
-        if (handler == nullptr) continue;
-        HandlerParameter parameter = {.name = name,
-                                      .kind = findHandlerKind(json::asText(*handler))};
-        if (parameter.kind == nullptr || !hasUserData(parameter, userData)) continue;
-        readDefault(parameter, userData);
-        parameters.push_back(parameter);
+        const auto parameter = readHandlerParameter(name, value, userData);
+        if (parameter) parameters.push_back(*parameter);
     }
     return parameters;
 }
 
 }  // namespace
+
+std::optional<HandlerParameter> readHandlerParameter(std::string_view name,
+                                                     const json::Value& value,
+                                                     json::Object userData) {
+    const auto members = value.object();
+    const json::Value* handler = members ? json::find(*members, "handler") : nullptr;
+    if (handler == nullptr) return std::nullopt;
+    HandlerParameter parameter = {.name = name, .kind = findHandlerKind(json::asText(*handler))};
+    if (parameter.kind == nullptr || !hasUserData(parameter, userData)) return std::nullopt;
+    readDefault(parameter, userData);
+    return parameter;
+}
 
 std::vector<HandlerPlugin> readHandlers(json::Object plugins) {
     std::vector<HandlerPlugin> read;

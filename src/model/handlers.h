@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -38,6 +39,9 @@ inline constexpr HandlerKind floatNumber = {
 inline constexpr HandlerKind duplicate = {"DuplicateHandler", "Duplicate", 6, "",
                                           duplicateData,      {}};
 
+/// The handler of parameters that name files, which has no user data.
+inline constexpr std::string_view fileBrowserWord = "FileBrowserHandler";
+
 inline constexpr std::array all = {&color, &floatNumber, &duplicate};
 
 }  // namespace handler_kind
@@ -66,6 +70,12 @@ struct HandlerPlugin {
     std::string_view name;
     std::vector<HandlerParameter> parameters;
 };
+
+/// Reads one parameter with its plugin's user data; nothing when it is passed over. Throws as
+/// readHandlers does.
+std::optional<HandlerParameter> readHandlerParameter(std::string_view name,
+                                                     const json::Value& value,
+                                                     json::Object userData);
 
 /// Reads the handler parameters of the plugins, both in byte order of their names; only plugins
 /// that have any. A parameter with another handler, or without user data that its handler needs, is

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "model/handlers.h"
 #include "sdk/parameter_type.h"
 #include "support/end_run.h"
 #include "support/numbers.h"
@@ -49,7 +50,7 @@ std::uint32_t readFileFlags(json::Object object) {
     const json::Value* handler = json::find(object, "handler");
     const json::Value* info = json::find(object, "handlerinfo");
     if (handler == nullptr || info == nullptr) return 0;
-    if (json::asText(*handler) != "FileBrowserHandler") return 0;
+    if (json::asText(*handler) != handler_kind::fileBrowserWord) return 0;
     const json::Value* loadMode = json::find(json::asObject(*info), "loadMode");
     const bool isOne = loadMode != nullptr && json::asText(*loadMode) == "1";
     return param_flag::fileBrowser | (isOne ? param_flag::loadModeOne : 0);
@@ -60,25 +61,12 @@ std::string_view readTypeName(json::Object object, std::string_view type) {
     return listType == nullptr ? type : json::asText(*listType);
 }
 
-// In the order in which what is wrong with a parameter shows.
-MetaParameter readParameter(std::string_view name, json::Object object, std::uint32_t originFlag) {
-    MetaParameter parameter;
-    parameter.name = name;
-    const std::string_view type = json::asText(json::at(object, "type"));
-    parameter.typeName = readTypeName(object, type);
-    parameter.flags = originFlag | readFileFlags(object);
-    if (const json::Value* scaling = json::find(object, "scaling")) {
-        Scaling read = readScaling(json::asObject(*scaling));
-        if (read.unit != 0) parameter.scaling = std::make_unique<Scaling>(std::move(read));
-    }
-    parameter.code = typeCode(type, parameter.typeName);
-    if (parameter.code == type_code::unknown) {
-        endRun(failureStatus, "Type: " + std::string(type) + " converts to an error\n");
-    }
-    if (const json::Value* text = json::find(object, "defaultValue")) {
-        parameter.defaultText = json::asText(*text);
-    }
-    return parameter;
+MetaParameter readKnownParameter(std::string_view name, json::Object object,
+                                 std::uint32_t originFlag) {
+    MetaParameter parameter = readMetaParameter(name, object, originFlag);
+    if (parameter.code != type_code::unknown) return parameter;
+    const std::string type(json::asText(json::at(object, "type")));
+    endRun(failureStatus, "Type: " + type + " converts to an error\n");
 }
 
 /// Adds the entries of a member of the plugin, which it may lack.
@@ -89,7 +77,7 @@ void readParameters(json::Object plugin, std::string_view key, std::uint32_t ori
     const json::Object entries = json::asObject(*member);
     parameters.reserve(parameters.size() + entries.size());
     for (const auto& [name, value] : entries) {
-        parameters.push_back(readParameter(name, json::asObject(value), originFlag));
+        parameters.push_back(readKnownParameter(name, json::asObject(value), originFlag));
     }
 }
 
@@ -119,6 +107,26 @@ MetaPlugin readPlugin(std::string_view name, json::Object object) {
 }
 
 }  // namespace
+
+// In the order in which what is wrong with a parameter shows.
+MetaParameter readMetaParameter(std::string_view name, json::Object object,
+                                std::uint32_t originFlag) {
+    MetaParameter parameter;
+    parameter.name = name;
+    const std::string_view type = json::asText(json::at(object, "type"));
+    parameter.typeName = readTypeName(object, type);
+    parameter.flags = originFlag | readFileFlags(object);
+    if (const json::Value* scaling = json::find(object, "scaling")) {
+        Scaling read = readScaling(json::asObject(*scaling));
+        if (read.unit != 0) parameter.scaling = std::make_unique<Scaling>(std::move(read));
+    }
+    parameter.code = typeCode(type, parameter.typeName);
+    if (parameter.code == type_code::unknown) return parameter;
+    if (const json::Value* text = json::find(object, "defaultValue")) {
+        parameter.defaultText = json::asText(*text);
+    }
+    return parameter;
+}
 
 MetaModel readMeta(json::Object plugins) {
     MetaModel model;

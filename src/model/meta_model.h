@@ -52,6 +52,11 @@ struct MetaPlugin {
 /// In byte order of the names.
 using MetaModel = std::vector<MetaPlugin>;
 
+/// Reads one parameter or, with `param_flag::fromUserData`, user data. Throws as readMeta does; a
+/// type outside the vocabulary gives the unknown code, and the default is then not looked at.
+MetaParameter readMetaParameter(std::string_view name, json::Object object,
+                                std::uint32_t originFlag);
+
 /// Reads the plugins of a document. Of a parameter and user data of one name the parameter stays.
 /// What is of the wrong kind is passed over within "scaling", and throws the JSON library's type
 /// mismatch elsewhere; a missing "type" throws std::out_of_range (see json::at). A type outside the
