@@ -85,6 +85,9 @@ struct DefaultValues {
 using DefaultRecord =
     std::variant<std::int32_t, float, std::string_view, DescriptorOnly, IntegerArray, FloatArray>;
 
+/// Whether defaults of that type can be read.
+bool hasDefaultRule(std::int32_t code);
+
 /// Reads the default of a type. There may be no text only where the code is a list's.
 /// Integers, bools, floats and float textures throw the errors of `parseInteger` and `parseFloat`.
 /// A code without a rule prints "unsupported type" and a line feed on standard output and ends the

@@ -160,11 +160,18 @@ constexpr std::array<DefaultRule, 34> rules = {{
     {code::unspecified, readNothing},
 }};
 
+/// Null when the code has none.
+const DefaultRule* findRule(std::int32_t code) {
+    const auto rule = std::ranges::find(rules, code, &DefaultRule::code);
+    return rule == rules.end() ? nullptr : rule;
+}
+
 }  // namespace
 
+bool hasDefaultRule(std::int32_t code) { return findRule(code) != nullptr; }
+
 DefaultRecord readTypedDefault(std::int32_t code, DefaultText text, DefaultValues& values) {
-    const auto rule = std::ranges::find(rules, code, &DefaultRule::code);
-    if (rule != rules.end()) return rule->read(*rule, text, values);
+    if (const DefaultRule* rule = findRule(code)) return rule->read(*rule, text, values);
     endRun(brokenMetadataStatus, "unsupported type\n");
 }
 

@@ -25,11 +25,9 @@ struct Owner {
 /// The descriptor of the condition's value, checked whether or not the document gives one.
 std::uint32_t valueDescriptor(const ScaleCondition& condition, const Owner& owner) {
     const MetaParameter& parameter = at(at(owner.model, owner.plugin).parameters, condition.ref);
+    const std::optional<std::uint32_t> descriptor = conditionDescriptor(parameter);
+    if (descriptor) return *descriptor;
     if (isListCode(parameter.code)) stop("Error: Scalling conditions do not support list types\n");
-    if (parameter.code == type_code::floatNumber) return singleFloatDescriptor;
-    if (parameter.code == type_code::integer || parameter.code == type_code::boolean) {
-        return singleIntegerDescriptor;
-    }
     stop("Error: Scalling conditions unsuported value type\n");
 }
 
@@ -51,7 +49,7 @@ void appendConditionRecord(std::string& records, const ScaleCondition& condition
 }
 
 void appendCondition(std::string& out, const ScaleCondition& condition, const Owner& owner) {
-    if (condition.op != equalsOperation) {
+    if (!hasKnownOperation(condition)) {
         stop("Error: Unsupported scalling condiiton operation type\n");
     }
     const std::uint32_t descriptor = valueDescriptor(condition, owner);
@@ -75,7 +73,7 @@ bool hasPower(const Scaling& scaling) {
 
 /// Appends what differs from the defaults: unit, power and flag.
 void appendUnit(std::string& out, const Scaling& scaling) {
-    if (scaling.unit != sceneUnit) stop("Error: Unsupported scaling condition unit type\n");
+    if (!hasKnownUnit(scaling)) stop("Error: Unsupported scaling condition unit type\n");
     out += ", { Scaling::UnitType::Scene";
     if (hasPower(scaling)) {
         out += ", ";
@@ -106,6 +104,17 @@ void appendParameter(std::string& out, std::string_view name, const Scaling& sca
 }
 
 }  // namespace
+
+bool hasKnownUnit(const Scaling& scaling) { return scaling.unit == sceneUnit; }
+
+bool hasKnownOperation(const ScaleCondition& condition) { return condition.op == equalsOperation; }
+
+std::optional<std::uint32_t> conditionDescriptor(const MetaParameter& parameter) {
+    if (parameter.code == type_code::floatNumber) return singleFloatDescriptor;
+    const bool isWhole =
+        parameter.code == type_code::integer || parameter.code == type_code::boolean;
+    return isWhole ? std::optional(singleIntegerDescriptor) : std::nullopt;
+}
 
 ScalingTable collectScalingTable(const MetaModel& model) {
     ScalingTable table;

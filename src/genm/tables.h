@@ -2,7 +2,9 @@
 // and their parameters, which of these name files, and how they scale with the scene's units.
 #pragma once
 
+#include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,6 +49,15 @@ void appendFileRecords(std::string& records, const FileTable& table);
 using ScalingTable = std::map<std::string_view, std::map<std::string_view, const Scaling*>>;
 
 ScalingTable collectScalingTable(const MetaModel& model);
+
+/// Whether the generated source has a word for the unit of a scaling that is in the table, and for
+/// the operation of a condition.
+bool hasKnownUnit(const Scaling& scaling);
+bool hasKnownOperation(const ScaleCondition& condition);
+
+/// The descriptor of what a condition compares the parameter with; none for a type that can't be
+/// compared: any but float, integer and bool.
+std::optional<std::uint32_t> conditionDescriptor(const MetaParameter& parameter);
 
 /// Appends the records of the table. The value of a condition is written only when the document
 /// gives a number for it, and by the type of the parameter that the condition names: one that is
