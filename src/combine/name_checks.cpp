@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "sdk/parameter_type.h"
 #include "support/end_run.h"
@@ -12,31 +13,42 @@ namespace metagen {
 
 namespace {
 
-/// The names in both objects, in byte order, each followed by a blank.
-std::string commonNames(json::Object params, json::Object userData) {
-    std::string names;
+/// The names in both objects, in byte order.
+std::vector<std::string_view> commonNames(json::Object params, json::Object userData) {
+    std::vector<std::string_view> names;
     auto parameter = params.begin();
     auto entry = userData.begin();
     while (parameter != params.end() && entry != userData.end()) {
         const int order = parameter->key.compare(entry->key);
-        if (order == 0) names.append(parameter->key).append(1, ' ');
+        if (order == 0) names.push_back(parameter->key);
         if (order <= 0) ++parameter;
         if (order >= 0) ++entry;
     }
     return names;
 }
 
-std::string clashingNames(const json::Value& plugin) {
+void reportEntries(std::string_view plugin, json::Object entries) {
+    for (const auto& [name, entry] : entries) {
+        if (!lacksDefault(json::asObject(entry))) continue;
+        // The spelling is deliberate: scripts look for it. There is no type and no value to show.
+        std::string line(plugin);
+        line.append("::").append(name).append(" : Unexpected defautValue format for type  = \n");
+        print(line);
+    }
+}
+
+}  // namespace
+
+std::vector<std::string_view> clashingNames(const json::Value& plugin) {
     const auto members = plugin.object();
-    if (!members) return "";
+    if (!members) return {};
     const json::Value* params = json::find(*members, "params");
     const json::Value* userData = json::find(*members, "userData");
-    if (params == nullptr || userData == nullptr) return "";
+    if (params == nullptr || userData == nullptr) return {};
     return commonNames(json::asObject(*params), json::asObject(*userData));
 }
 
-/// Whether the entry lacks the default value that its list type asks for. One walk along the
-/// members, because this is asked of every parameter of the document.
+// One walk along the members, because this is asked of every parameter of the document.
 bool lacksDefault(json::Object entry) {
     std::optional<std::string_view> listType;
     bool hasTypeOrDefault = false;
@@ -53,18 +65,6 @@ bool lacksDefault(json::Object entry) {
     return type != nullptr && type->isReadable;
 }
 
-void reportEntries(std::string_view plugin, json::Object entries) {
-    for (const auto& [name, entry] : entries) {
-        if (!lacksDefault(json::asObject(entry))) continue;
-        // The spelling is deliberate: scripts look for it. There is no type and no value to show.
-        std::string line(plugin);
-        line.append("::").append(name).append(" : Unexpected defautValue format for type  = \n");
-        print(line);
-    }
-}
-
-}  // namespace
-
 void checkNamesAndDefaults(json::Object document) {
     json::Object plugins = json::asObject(json::at(document, "plugins"));
     const bool clash = reportNameClashes(plugins);
@@ -75,11 +75,12 @@ void checkNamesAndDefaults(json::Object document) {
 bool reportNameClashes(json::Object plugins) {
     bool found = false;
     for (const auto& [name, plugin] : plugins) {
-        const std::string names = clashingNames(plugin);
+        const std::vector<std::string_view> names = clashingNames(plugin);
         if (names.empty()) continue;
         std::string line(name);
-        line.append(" has duplicated named param and userdata - ").append(names).append("\n");
-        print(line);
+        line += " has duplicated named param and userdata - ";
+        for (const std::string_view clashing : names) line.append(clashing).append(1, ' ');
+        print(line += '\n');
         found = true;
     }
     return found;

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "model/handlers.h"
@@ -70,22 +71,21 @@ std::vector<HandlerData> findHandlerData(json::Object userData) {
 
 class PluginCheck {
 public:
-    PluginCheck(std::string_view pluginName, json::Object pluginParams, json::Object pluginUserData,
-                std::vector<std::string>& failureList)
-        : plugin(pluginName),
-          params(pluginParams),
-          userData(pluginUserData),
-          failures(failureList) {}
+    PluginCheck(std::string_view pluginName, json::Object pluginParams, json::Object pluginUserData)
+        : plugin(pluginName), params(pluginParams), userData(pluginUserData) {}
 
-    void run() {
+    std::vector<HandlerFailure> run() {
         for (const auto& [name, value] : params) checkParameter(name, value);
         if (hasHandler && json::find(userData, "texture_multiplier_mode") == nullptr) {
             // The double quote at the end is deliberate: it belongs to the known text.
-            failures.push_back(std::string(plugin) +
-                               ": the plugin has float texture handler(s) but no "
-                               "'texture_multiplier_mode' \"");
+            failures.push_back({HandlerFault::noMultiplierMode,
+                                {},
+                                std::string(plugin) +
+                                    ": the plugin has float texture handler(s) but no "
+                                    "'texture_multiplier_mode' \""});
         }
         for (const HandlerData& data : findHandlerData(userData)) checkHandlerData(data);
+        return std::move(failures);
     }
 
 private:
@@ -94,15 +94,16 @@ private:
         if (std::ranges::find(found, true) == found.end()) return;
         const json::Value* handler = json::find(json::asObject(value), "handler");
         if (handler == nullptr) {
-            return record(name, "Userdata for handler exist, but no handler was defined");
+            return record(HandlerFault::noHandler, name,
+                          "Userdata for handler exist, but no handler was defined");
         }
         hasHandler = true;
         if (std::find(found.begin() + firstShared, found.end(), false) != found.end()) {
-            record(name, "_tex_* user data is missing");
+            record(HandlerFault::missingTextureData, name, "_tex_* user data is missing");
         }
         if (found[colorValue] == found[floatValue]) {
             const std::string parameter(name);
-            record(name,
+            record(HandlerFault::notOneValue, name,
                    "expecting exactly one " + parameter + "_float or " + parameter + "_color");
         }
         // User data for a float wins over that for a colour.
@@ -114,20 +115,24 @@ private:
                        const HandlerKind& expected) {
         const auto word = handler.text();
         if (!word || *word == expected.word) return;
-        record(name, "mismatch handler type \"" + std::string(*word) + "\", expecting \"" +
-                         std::string(expected.word) + '"');
+        record(HandlerFault::otherHandler, name,
+               "mismatch handler type \"" + std::string(*word) + "\", expecting \"" +
+                   std::string(expected.word) + '"');
     }
 
     void checkHandlerData(const HandlerData& data) {
         const std::string_view name = data.parameter;
         const json::Value* parameter = json::find(params, name);
         if (parameter == nullptr) {
-            return record(name, std::string("Texture handler userdata seem to be defined: ")
-                                    .append(name)
-                                    .append(data.suffix));
+            return record(HandlerFault::noParameter, name,
+                          std::string("Texture handler userdata seem to be defined: ")
+                              .append(name)
+                              .append(data.suffix));
         }
         const json::Value* handler = json::find(json::asObject(*parameter), "handler");
-        if (handler == nullptr) return record(name, "Expecting a handler");
+        if (handler == nullptr) {
+            return record(HandlerFault::noHandler, name, "Expecting a handler");
+        }
         if (const auto word = handler->text()) checkSuffix(name, *word, data.suffix);
     }
 
@@ -136,27 +141,36 @@ private:
     void checkSuffix(std::string_view name, std::string_view handler, std::string_view suffix) {
         if (handler == color.word) {
             if (suffix == color.value) return;
-            record(name, "Color texture frame handler defined, but no \"_color\" user data");
+            record(HandlerFault::noValue, name,
+                   "Color texture frame handler defined, but no \"_color\" user data");
         } else if (handler == floatNumber.word) {
             if (suffix == floatNumber.value) return;
-            record(name, "Float texture frame handler defined, but no \"_float\" user data");
+            record(HandlerFault::noValue, name,
+                   "Float texture frame handler defined, but no \"_float\" user data");
         } else {
-            record(name, "Texture frame handler user data exist, but no handler defined");
+            record(HandlerFault::otherHandler, name,
+                   "Texture frame handler user data exist, but no handler defined");
         }
     }
 
-    void record(std::string_view name, std::string_view text) {
-        failures.push_back(std::string(plugin).append("::").append(name).append(": ").append(text));
+    void record(HandlerFault fault, std::string_view name, std::string_view text) {
+        failures.push_back(
+            {fault, name, std::string(plugin).append("::").append(name).append(": ").append(text)});
     }
 
     std::string_view plugin;
     json::Object params;
     json::Object userData;
-    std::vector<std::string>& failures;
+    std::vector<HandlerFailure> failures;
     bool hasHandler = false;
 };
 
 }  // namespace
+
+std::vector<HandlerFailure> handlerFailures(std::string_view plugin, json::Object params,
+                                            json::Object userData) {
+    return PluginCheck(plugin, params, userData).run();
+}
 
 void checkTextureHandlers(json::Object document, CombineReport& report) {
     const json::Value* plugins = json::find(document, "plugins");
@@ -169,9 +183,10 @@ void checkTextureHandlers(json::Object document, CombineReport& report) {
         const json::Value* params = json::find(*members, "params");
         const json::Value* userData = json::find(*members, "userData");
         if (params == nullptr || userData == nullptr) continue;
-        PluginCheck(name, json::asObject(*params), json::asObject(*userData),
-                    report.handlerCheckFailures)
-            .run();
+        for (HandlerFailure& failure :
+             handlerFailures(name, json::asObject(*params), json::asObject(*userData))) {
+            report.handlerCheckFailures.push_back(std::move(failure.text));
+        }
     }
 }
 
