@@ -57,6 +57,7 @@ template <typename Number>
 struct Magnitude {
     Number number;
     bool isInRange = true;
+    std::string_view rest = {};  ///< what follows it
 };
 
 /// Nothing when the text does not begin with a number.
@@ -70,13 +71,14 @@ std::optional<Magnitude<Number>> readMagnitude(std::string_view text) {
     const char* const end = text.data() + text.size();
     const std::from_chars_result result = std::from_chars(text.data(), end, number, format);
     if (result.ec == std::errc::invalid_argument) return std::nullopt;
-    text.remove_suffix(static_cast<std::size_t>(end - result.ptr));
+    const std::string_view rest(result.ptr, static_cast<std::size_t>(end - result.ptr));
+    text.remove_suffix(rest.size());
     if (result.ec == std::errc::result_out_of_range) {
         constexpr Number infinity = std::numeric_limits<Number>::infinity();
-        return Magnitude<Number>{isTooLarge(text, hexadecimal) ? infinity : 0, false};
+        return Magnitude<Number>{isTooLarge(text, hexadecimal) ? infinity : 0, false, rest};
     }
     // Not every library calls it out of range that a number becomes zero.
-    return Magnitude<Number>{number, number != 0 || isZero(text, hexadecimal)};
+    return Magnitude<Number>{number, number != 0 || isZero(text, hexadecimal), rest};
 }
 
 /// Nothing without a digit, beyond 64 bits the nearest 64-bit number.
@@ -105,6 +107,19 @@ double readDoublePrefix(std::string_view text) {
     const auto read = readMagnitude<double>(magnitude);
     if (!read) return 0;  // whatever the sign
     return negative ? -read->number : read->number;
+}
+
+std::string_view restAfterInteger(std::string_view text) {
+    const std::string_view magnitude = splitSign(text).magnitude;
+    const auto isDigit = [](char byte) { return byte >= '0' && byte <= '9'; };
+    const auto end = std::ranges::find_if_not(magnitude, isDigit);
+    const auto digits = static_cast<std::size_t>(end - magnitude.begin());
+    return digits == 0 ? text : magnitude.substr(digits);
+}
+
+std::string_view restAfterDouble(std::string_view text) {
+    const auto read = readMagnitude<double>(splitSign(text).magnitude);
+    return read ? read->rest : text;
 }
 
 std::int32_t parseInteger(std::string_view text) {

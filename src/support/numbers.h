@@ -33,6 +33,11 @@ std::int64_t readIntegerPrefix(std::string_view text);
 /// or nan. Without a number 0, too large an infinity, too small 0.
 double readDoublePrefix(std::string_view text);
 
+/// What readIntegerPrefix and readDoublePrefix ignore: what follows the number, or the whole text
+/// when there is none.
+std::string_view restAfterInteger(std::string_view text);
+std::string_view restAfterDouble(std::string_view text);
+
 /// The same as readIntegerPrefix, but throws std::invalid_argument "invalid stoi argument" when
 /// there is no digit, and std::out_of_range "stoi argument out of range" beyond 32 bits.
 std::int32_t parseInteger(std::string_view text);

@@ -24,6 +24,24 @@ TEST(IsBlank, IsTrueForTheSixBlanksOnly) {
     }
 }
 
+TEST(RestAfterInteger, IsWhatTheReaderIgnores) {
+    EXPECT_EQ(restAfterInteger(" +12"), "");
+    EXPECT_EQ(restAfterInteger("12 "), " ");
+    EXPECT_EQ(restAfterInteger("2.7"), ".7");
+    EXPECT_EQ(restAfterInteger("99999999999999999999x"), "x");
+    EXPECT_EQ(restAfterInteger(" -x"), " -x");
+}
+
+TEST(RestAfterDouble, IsWhatTheReaderIgnores) {
+    EXPECT_EQ(restAfterDouble(" -0.5e-3"), "");
+    EXPECT_EQ(restAfterDouble("0,5"), ",5");
+    EXPECT_EQ(restAfterDouble("50%"), "%");
+    EXPECT_EQ(restAfterDouble("0x1.8p3x"), "x");
+    EXPECT_EQ(restAfterDouble("1e999)"), ")");
+    EXPECT_EQ(restAfterDouble("1e"), "e");
+    EXPECT_EQ(restAfterDouble("+-1"), "+-1");
+}
+
 TEST(ReadIntegerPrefix, SkipsBlanksAndIgnoresWhatFollows) {
     EXPECT_EQ(readIntegerPrefix(" \t\n\v\f\r12abc"), 12);
     EXPECT_EQ(readIntegerPrefix("2.7"), 2);
