@@ -17,8 +17,9 @@ struct FileCloser {
 /// An open file, closed when it goes out of scope. A failure to close is not reported.
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
-/// Opens a text file for reading; null when that fails or the path names a folder.
-File openForReading(const char* path);
+/// Opens a file of text, or (mode "rb") of bytes that stay as they are, for reading; null when that
+/// fails or the path names a folder.
+File openForReading(const char* path, const char* mode = "r");
 
 /// Creates or truncates a file, of text or (mode "wb") of bytes that stay as they are; null when
 /// that fails.

@@ -4,8 +4,8 @@
 
 namespace metagen {
 
-File openForReading(const char* path) {
-    File file(std::fopen(path, "r"));
+File openForReading(const char* path, const char* mode) {
+    File file(std::fopen(path, mode));
     if (!file) return nullptr;
     // A folder opens like a file here and would fail only on the first read.
     struct stat status = {};
