@@ -17,6 +17,10 @@ void print(std::string_view text);
 /// far stay as they are.
 [[noreturn]] void endRun(int status, std::string_view text);
 
+/// From now on endRun writes to standard error and ends the process with this status, whatever it
+/// is given: for a program whose standard output holds nothing but its findings.
+void endRunsAsFailureOf(std::string_view program, int status);
+
 /// When the condition is false, writes the message to standard error as it is, with no line feed
 /// added, and ends the process with status 1. What was printed before is flushed.
 void requireOrExit(bool condition, std::string_view message);
