@@ -7,7 +7,7 @@ mkdir -p "$logs"
 
 # The packages that a build of the tool takes.
 # shellcheck disable=SC2034  # used by the scripts that source this one
-build_packages=(cmake g++ libgtest-dev ninja-build picojson-dev python3)
+build_packages=(cmake g++ libcli11-dev libgtest-dev ninja-build picojson-dev python3)
 
 # quietly <log> <command>...: keeps the command's output in a log below build/logs, and shows it
 # only when the command fails.

@@ -23,7 +23,9 @@ ALLOWED = {
     "genh": {"json", "model", "metadata", "sdk", "support"},
     "genm": {"json", "model", "metadata", "sdk", "support"},
     "cli": {"combine", "diff", "dump", "genh", "genm", "sdk", "support"},
+    "lint": {"combine", "genm", "json", "metadata", "model", "sdk", "support"},
     "main.cpp": {"cli", "support"},
+    "lint_main.cpp": {"cli", "lint"},
     "replay_sdk": {"json", "sdk", "support"},
     "benchmarks": {"genm", "json", "metadata", "replay_sdk", "sdk", "support"},
 }
