@@ -22,6 +22,7 @@ GOLDEN = ROOT / "tests" / "golden"
 
 _BUILD = pathlib.Path(os.environ.get("METAGEN_BUILD", ROOT / "build" / "release"))
 BINARY = pathlib.Path(os.environ.get("METAGEN_BINARY", _BUILD / "metagen"))
+LINTER = BINARY.with_name("metagen-lint").with_suffix(BINARY.suffix)
 REPLAY_SDK = pathlib.Path(os.environ.get("METAGEN_REPLAY_SDK", _BUILD / "sdk"))
 TEST_LIBRARIES = pathlib.Path(
     os.environ.get("METAGEN_TEST_LIBRARIES", _BUILD / "tests" / "commands"))
@@ -126,7 +127,7 @@ class CommandTest(unittest.TestCase):
         self.addCleanup(shutil.rmtree, folder)
         return pathlib.Path(folder)
 
-    def run_metagen(self, *arguments, environment=None, catalogue=None):
+    def run_metagen(self, *arguments, environment=None, catalogue=None, binary=BINARY):
         """Runs the binary in the test's folder. The environment's values are added to one in
         which QYRA_SDK names the replay SDK; None takes a variable away. The ledger of the replay
         SDK, when it wrote one, must be clean."""
@@ -134,7 +135,7 @@ class CommandTest(unittest.TestCase):
         values = {"QYRA_SDK": REPLAY_SDK, "QYRA_REPLAY_LEDGER": self._ledger,
                   "QYRA_REPLAY_CATALOGUE": catalogue, **(environment or {})}
         finished = subprocess.run(
-            [*LAUNCHER, str(BINARY), *map(native, arguments)],
+            [*LAUNCHER, str(binary), *map(native, arguments)],
             cwd=self.folder, env=environment_of_run(values), stdin=subprocess.DEVNULL,
             capture_output=True, timeout=RUN_SECONDS, check=False,
             preexec_fn=None if os.name == "nt" else _without_core_file)
