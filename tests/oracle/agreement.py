@@ -28,16 +28,18 @@ import diff  # noqa: E402
 import genh  # noqa: E402
 import genm  # noqa: E402
 import harness  # noqa: E402
+import lint  # noqa: E402
 from random_catalogue import random_catalogue  # noqa: E402
 from random_combined import random_combined  # noqa: E402
+from random_lint import random_lint  # noqa: E402
 from random_meta import random_meta  # noqa: E402
 from random_stripped import Documents  # noqa: E402
 
 
 @dataclasses.dataclass
 class End:
-    """How a run ends: its status, its outputs and the files that it writes. A file that is None
-    is not looked at."""
+    """How a run ends: its status, its outputs and the files that it writes. An output or a file
+    that is None is not looked at."""
 
     status: int = 0
     stdout: bytes = b""
@@ -53,10 +55,13 @@ class Case:
     documents: dict
     expect: object  # from the texts of the documents, in their order
     catalogue: str = None
+    binary: pathlib.Path = harness.BINARY
     ascii: bool = True
+    indent: object = None
+    observe: object = None  # instead of one run: gives its end from the texts and the folder
 
     def texts(self):
-        return {name: json.dumps(document, ensure_ascii=self.ascii)
+        return {name: json.dumps(document, ensure_ascii=self.ascii, indent=self.indent)
                 for name, document in self.documents.items()}
 
 
@@ -103,6 +108,16 @@ def expect_genm(combined):
     return End(harness.ABORTED, b"", harness.text_bytes(f"{outputs.end}\n"), files)
 
 
+def expect_lint(base, stripped):
+    return End(1 if lint.reason(base, stripped) else 0, stdout=None)
+
+
+def expect_fix(base, stripped):
+    """The fixed document is combined to the same, and a second run has nothing to do."""
+    return End(files={"combined.json": combine.combine(base, stripped).document,
+                      "second run": "", "fixable": 0})
+
+
 # --- cases ----------------------------------------------------------------------------------------
 
 def dump_case(seed):
@@ -129,12 +144,48 @@ def generator_case(command, make, expect):
                              {"combined.json": make(seed)}, expect)
 
 
+def lint_case(seed):
+    base, stripped = random_lint(seed)
+    if seed % 2 == 0:
+        return Case(["stripped.json"], {"catalogue.json": base, "stripped.json": stripped},
+                    expect_lint, "catalogue.json", binary=harness.LINTER)
+    return Case(["--base", "base.json", "stripped.json"],
+                {"base.json": base, "stripped.json": stripped}, expect_lint, binary=harness.LINTER)
+
+
+FIXABLE = ("duplicate-of-sdk", "null-of-unknown")
+
+
+def observe_fix(case, texts, folder):
+    """The end of two runs that fix, in the form of expect_fix."""
+    ends = [run(case, texts, folder), None]
+    fixed = (folder / "stripped.json").read_bytes()
+    ends[1] = run(case, {**texts, "stripped.json": fixed.decode("utf-8", "surrogatepass")}, folder)
+    again = (folder / "stripped.json").read_bytes()
+    left = [finding for finding in json.loads(ends[1].stdout)["findings"]
+            if finding["rule"] in FIXABLE]
+    failed = [end.stderr for end in ends if end.status not in (0, 1)]
+    return End(files={
+        "combined.json": combine.combine(texts["base.json"], fixed.decode()).document,
+        "second run": "" if again == fixed and not failed else f"{fixed} {again} {failed}",
+        "fixable": len(left)})
+
+
+def fix_case(seed):
+    base, stripped = random_lint(seed)
+    return Case(["--fix", "--format", "json", "--base", "base.json", "stripped.json"],
+                {"base.json": base, "stripped.json": stripped}, expect_fix, binary=harness.LINTER,
+                indent=(None, 2, "\t")[seed % 3], observe=observe_fix)
+
+
 CASES = {
     "dump": dump_case,
     "combine": combine_case,
     "diff": diff_case,
     "genh": generator_case("genh", random_combined, expect_genh),
     "genm": generator_case("genm", random_meta, expect_genm),
+    "lint": lint_case,
+    "fix": fix_case,
 }
 
 
@@ -159,10 +210,10 @@ def run(case, texts, folder):
         "LC_ALL": os.environ.get("METAGEN_RUN_LOCALE") or None,
         "LOCPATH": os.environ.get("LOCPATH")})
     finished = subprocess.run(
-        [*harness.LAUNCHER, str(harness.BINARY), *case.arguments], cwd=folder, env=environment,
+        [*harness.LAUNCHER, str(case.binary), *case.arguments], cwd=folder, env=environment,
         stdin=subprocess.DEVNULL, capture_output=True, timeout=harness.RUN_SECONDS, check=False)
     status = 255 if finished.returncode == 0xFFFFFFFF else finished.returncode
-    if status == 0 and ledger.read_text("utf-8").split("\n")[0] != "clean":
+    if status == 0 and ledger.exists() and ledger.read_text("utf-8").split("\n")[0] != "clean":
         finished.stderr += b"\n" + ledger.read_bytes()
     files = {path.name: path.read_bytes() for path in folder.iterdir()
              if path.name not in texts and path != ledger}
@@ -173,7 +224,10 @@ def difference(case, folder):
     """What the two say differently, as a text; none when they agree."""
     texts = case.texts()
     expected = case.expect(*texts.values())
-    actual = run(case, texts, folder)
+    actual = (case.observe or run)(case, texts, folder)
+    for output in ("stdout", "stderr"):
+        if getattr(expected, output) is None:
+            setattr(actual, output, None)
     for name, content in expected.files.items():
         if content is None:
             actual.files.pop(name, None)
