@@ -4,10 +4,12 @@
 include(GNUInstallDirs)
 
 if(METAGEN_MANUAL)
-    install(FILES "${METAGEN_MANUAL_FOLDER}/manual.html" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+    install(FILES "${METAGEN_MANUAL_FOLDER}/manual.html" "${METAGEN_MANUAL_FOLDER}/lint.html"
+        DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 endif()
 if(METAGEN_MANUAL AND NOT WIN32)
-    install(FILES "${METAGEN_MANUAL_FOLDER}/metagen.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+    install(FILES "${METAGEN_MANUAL_FOLDER}/metagen.1" "${METAGEN_MANUAL_FOLDER}/metagen-lint.1"
+        DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
     foreach(tool IN ITEMS metagen-report metagen-show)  # described in the same page
         file(WRITE "${METAGEN_MANUAL_FOLDER}/${tool}.1" ".so man1/metagen.1\n")
         install(FILES "${METAGEN_MANUAL_FOLDER}/${tool}.1"
@@ -19,7 +21,10 @@ if(NOT WIN32)
         install(FILES completions/metagen.bash RENAME ${command}
             DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
     endforeach()
-    install(FILES completions/_metagen DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
+    install(FILES completions/metagen-lint.bash RENAME metagen-lint
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
+    install(FILES completions/_metagen completions/_metagen-lint
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
 endif()
 
 install(PROGRAMS tools/metagen-report tools/metagen-show DESTINATION "${CMAKE_INSTALL_BINDIR}")
@@ -34,6 +39,7 @@ install(FILES
     docs/handlers.ksy
     docs/inl-vocabulary.md
     docs/integrating.md
+    docs/lint.md
     docs/manual.md
     docs/meta.ksy
     DESTINATION "${CMAKE_INSTALL_DOCDIR}/docs")

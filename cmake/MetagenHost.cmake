@@ -13,8 +13,26 @@
 # `bin` below; METAGEN_REPLAY_SDK_ROOT, which the package sets, serves where no SDK is installed.
 # Without SDK_ROOT the environment of the build decides; an empty one is refused.
 #
+#     metagen_lint(DOCUMENT <stripped.json> [BASE <base.json>] [PREVIOUS <base.json>])
+#
+# Adds the target <name of the document>_lint, which runs metagen-lint on the stripped document, and,
+# where the host has tests, a test of that name. Both fail when there is an error. Without BASE the
+# installed SDK is asked.
+#
 # A metagen for another system than the build machine's is run through the program (with its
 # arguments) that METAGEN_LAUNCHER names, by default CMAKE_CROSSCOMPILING_EMULATOR.
+
+# What runs metagen on the build machine, if anything is needed.
+function(metagen_launcher variable)
+    set(launcher "")
+    if(NOT METAGEN_SYSTEM STREQUAL CMAKE_HOST_SYSTEM_NAME)
+        set(launcher ${CMAKE_CROSSCOMPILING_EMULATOR})
+        if(METAGEN_LAUNCHER)
+            set(launcher ${METAGEN_LAUNCHER})
+        endif()
+    endif()
+    set(${variable} "${launcher}" PARENT_SCOPE)
+endfunction()
 
 function(metagen_generate_tables)
     cmake_parse_arguments(PARSE_ARGV 0 arg "" "TARGET;DOCUMENT;SDK_ROOT" "")
@@ -35,13 +53,7 @@ function(metagen_generate_tables)
         # metagen would look at the other variable first.
         set(environment --unset=QYRA_APPSDK_BIN "QYRA_SDK=${arg_SDK_ROOT}")
     endif()
-    set(launcher "")
-    if(NOT METAGEN_SYSTEM STREQUAL CMAKE_HOST_SYSTEM_NAME)
-        set(launcher ${CMAKE_CROSSCOMPILING_EMULATOR})
-        if(METAGEN_LAUNCHER)
-            set(launcher ${METAGEN_LAUNCHER})
-        endif()
-    endif()
+    metagen_launcher(launcher)
 
     set(folder "${CMAKE_CURRENT_BINARY_DIR}/${arg_TARGET}_tables")
     set(script "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/MetagenTables.cmake")
@@ -55,7 +67,6 @@ function(metagen_generate_tables)
             COMMAND "${CMAKE_COMMAND}" -E env ${environment}
                 "${CMAKE_COMMAND}" "-DLAUNCHER=${launcher}" "-DTOOL=$<TARGET_FILE:metagen::metagen>"
                 "-DCHECKER=$<TARGET_FILE:metagen::check_tables>"
-                "-DSCHEMA=${METAGEN_SCHEMAS}/combined.schema.json"
                 -DCOMMAND=${command} "-DDOCUMENT=${arg_DOCUMENT}" "-DOUTPUT=${folder}/${table}"
                 -P "${script}"
             DEPENDS "${arg_DOCUMENT}" "${script}" metagen::metagen metagen::check_tables
@@ -66,4 +77,26 @@ function(metagen_generate_tables)
     endforeach()
     target_include_directories(${arg_TARGET} PRIVATE "${folder}")
     set_target_properties(${arg_TARGET} PROPERTIES METAGEN_TABLES_FOLDER "${folder}")
+endfunction()
+
+function(metagen_lint)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "DOCUMENT;BASE;PREVIOUS" "")
+    if(NOT arg_DOCUMENT OR arg_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "metagen_lint takes DOCUMENT <stripped.json> and, optionally, "
+            "BASE <base.json> and PREVIOUS <base.json>")
+    endif()
+    metagen_launcher(launcher)
+    set(command ${launcher} "$<TARGET_FILE:metagen::metagen-lint>")
+    foreach(option BASE PREVIOUS)
+        if(arg_${option})
+            cmake_path(ABSOLUTE_PATH arg_${option})
+            string(TOLOWER "--${option}" word)
+            list(APPEND command ${word} "${arg_${option}}")
+        endif()
+    endforeach()
+    cmake_path(ABSOLUTE_PATH arg_DOCUMENT)
+    cmake_path(GET arg_DOCUMENT STEM name)
+    list(APPEND command "${arg_DOCUMENT}")
+    add_custom_target(${name}_lint COMMAND ${command} DEPENDS metagen::metagen-lint VERBATIM)
+    add_test(NAME ${name}_lint COMMAND ${command})
 endfunction()

@@ -2,8 +2,8 @@
 # hands it over only when the run did not fail and the checker can read it.
 #
 #     cmake -DTOOL=<metagen> -DCHECKER=<check-tables> -DLAUNCHER=<program or nothing>
-#           -DCOMMAND=<genh or genm> -DDOCUMENT=<combined.json> -DSCHEMA=<of such documents>
-#           -DOUTPUT=<path without suffix> -P MetagenTables.cmake
+#           -DCOMMAND=<genh or genm> -DDOCUMENT=<combined.json> -DOUTPUT=<path without suffix>
+#           -P MetagenTables.cmake
 #
 # Beside <path>.bin and <path>.inl stands <path>.generated.inl, the source text as the tool wrote
 # it. Its format has places that no C++ compiler takes, which <path>.inl completes:
@@ -39,8 +39,8 @@ function(run what)
     endif()
     if(NOT status EQUAL 0)
         message(FATAL_ERROR "${what} ended with ${status} on\n  ${DOCUMENT}\n"
-            "Where a value in it doesn't fit, its schema tells:\n"
-            "  jsonschema --output pretty -i \"${DOCUMENT}\" \"${SCHEMA}\"\n${hint}")
+            "Where in the stripped document the mistake is that this comes of, metagen-lint tells:\n"
+            "  metagen-lint --base <base.json> <stripped.json>\n${hint}")
     endif()
 endfunction()
 

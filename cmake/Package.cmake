@@ -29,7 +29,8 @@ set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME metagen)
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/metagen")
 set(replay_sdk_folder "${CMAKE_INSTALL_LIBDIR}/metagen/replay_sdk")
 
-install(TARGETS metagen EXPORT metagenTargets RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS metagen metagen-lint EXPORT metagenTargets
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(TARGETS check_tables EXPORT metagenTargets
     RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/metagen")
 install(TARGETS metagen_host EXPORT metagenTargets)
@@ -48,21 +49,19 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/metagenConfigVersion.cma
     COMPATIBILITY SameMinorVersion ARCH_INDEPENDENT)
 
 set(HOST_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake")
-set(SCHEMAS "${PROJECT_SOURCE_DIR}/schemas")
 set(REPLAY_SDK_ROOT "${PROJECT_BINARY_DIR}/sdk")
 configure_package_config_file(cmake/metagenConfig.cmake.in
     "${PROJECT_BINARY_DIR}/metagenConfig.cmake"
     INSTALL_DESTINATION "${PROJECT_BINARY_DIR}"
     INSTALL_PREFIX "${PROJECT_BINARY_DIR}"
-    PATH_VARS HOST_SCRIPTS REPLAY_SDK_ROOT SCHEMAS)
+    PATH_VARS HOST_SCRIPTS REPLAY_SDK_ROOT)
 
 set(HOST_SCRIPTS "${package_folder}")
-set(SCHEMAS "${CMAKE_INSTALL_DATADIR}/metagen/schemas")
 set(REPLAY_SDK_ROOT "${replay_sdk_folder}")
 configure_package_config_file(cmake/metagenConfig.cmake.in
     "${PROJECT_BINARY_DIR}/package/metagenConfig.cmake"
     INSTALL_DESTINATION "${package_folder}"
-    PATH_VARS HOST_SCRIPTS REPLAY_SDK_ROOT SCHEMAS)
+    PATH_VARS HOST_SCRIPTS REPLAY_SDK_ROOT)
 install(FILES
     "${PROJECT_BINARY_DIR}/package/metagenConfig.cmake"
     "${PROJECT_BINARY_DIR}/metagenConfigVersion.cmake"

@@ -6,7 +6,10 @@ set(doc "${share}/doc/metagen")
 
 # Debian's zsh looks in another folder than that of other systems.
 file(MAKE_DIRECTORY "${share}/zsh/vendor-completions")
-file(RENAME "${share}/zsh/site-functions/_metagen" "${share}/zsh/vendor-completions/_metagen")
+foreach(completion _metagen _metagen-lint)
+    file(RENAME "${share}/zsh/site-functions/${completion}"
+        "${share}/zsh/vendor-completions/${completion}")
+endforeach()
 file(REMOVE_RECURSE "${share}/zsh/site-functions")
 
 # The licence stands in the file copyright, the changes in changelog.gz.

@@ -14,6 +14,8 @@ from harness import BINARY, GOLDEN, LAUNCHER, ROOT  # noqa: E402
 
 CMAKE = os.environ.get("CMAKE_COMMAND", "cmake")
 BUILD = os.environ.get("METAGEN_BUILD", ROOT / "build" / "release")
+CLEAN = '{"version": 1, "plugins": {"OptionSettings": {"params": {"log_level": ' \
+        '{"defaultValue": "3"}}}}}'
 AGREE = "The compiled-in and the loaded tables agree."
 
 
@@ -41,9 +43,13 @@ class Package(unittest.TestCase):
         cls.run_cmake("--install", BUILD, "--prefix", cls.prefix)
         shutil.copytree(ROOT / "examples" / "host", cls.project)
         shutil.copy(GOLDEN / "combine" / "bundled" / "combined.json", cls.document)
+        cls.stripped = cls.folder / "stripped.json"
+        cls.stripped.write_text(CLEAN, encoding="utf-8")
         cls.run_cmake("-S", cls.project, "-B", cls.build_folder, "-DCMAKE_BUILD_TYPE=Debug",
                       f"-Dmetagen_DIR={cls.package_folder()}",
-                      f"-DEXAMPLE_HOST_DOCUMENT={cls.document}")
+                      f"-DEXAMPLE_HOST_DOCUMENT={cls.document}",
+                      f"-DEXAMPLE_HOST_STRIPPED={cls.stripped}",
+                      f"-DEXAMPLE_HOST_BASE={GOLDEN / 'dump' / 'bundled' / 'base.json'}")
 
     @classmethod
     def run_cmake(cls, *arguments, fails=False):
@@ -83,8 +89,8 @@ class Package(unittest.TestCase):
                  if path.is_file()}
         library = "QyraSDKLibrary.dll" if BINARY.suffix else "libQyraSDKLibrary.so"
         self.assertLessEqual(
-            {BINARY.name, "check-tables" + BINARY.suffix, library, "catalogue.json",
-             "metagenConfig.cmake", "metagenConfigVersion.cmake", "metagenTargets.cmake",
+            {BINARY.name, "metagen-lint" + BINARY.suffix, "check-tables" + BINARY.suffix, library,
+             "catalogue.json", "metagenConfig.cmake", "metagenConfigVersion.cmake", "metagenTargets.cmake",
              "MetagenHost.cmake", "MetagenTables.cmake", "handlers.h", "load.h", "meta.h",
              "table_reader.h", "LICENSE"}, files)
         for path in self.package_folder().glob("*.cmake"):
@@ -104,6 +110,21 @@ class Package(unittest.TestCase):
         os.utime(self.prefix / "bin" / BINARY.name)
         self.assertIn("Generating handlers.inl", self.build())
         self.assertIn("no work to do", self.build())
+
+    def test_the_stripped_document_is_checked(self):
+        finding = ('stripped.json:1:58: error: the SDK\'s "OptionSettings" has no parameter '
+                   '"log_levle"')
+        lint = ("--build", self.build_folder, "--target", "stripped_lint")
+        ctest = [CMAKE.replace("cmake", "ctest"), "--test-dir", self.build_folder,
+                 "--output-on-failure"]
+        self.run_cmake(*lint)
+        for text, fails in ((CLEAN, False), (CLEAN.replace("level", "levle"), True)):
+            self.stripped.write_text(text, encoding="utf-8")
+            finished = subprocess.run(ctest, env=environment(), text=True, capture_output=True,
+                                      check=False)
+            self.assertEqual(fails, finished.returncode != 0, finished.stdout)
+        self.assertIn(finding, finished.stdout)
+        self.assertIn(finding, self.run_cmake(*lint, fails=True))
 
     def test_a_host_of_few_lines_reads_its_first_record(self):
         project = pathlib.Path(__file__).resolve().parent / "first_record"
@@ -142,17 +163,16 @@ metagen_generate_tables(TARGET host DOCUMENT combined.json {argument})
         self.addCleanup(self.build)
         self.addCleanup(self.document.write_text, old, encoding="utf-8")
 
-    def assert_names_document_and_schema(self, printed):
-        [schema] = self.prefix.rglob("combined.schema.json")
+    def assert_names_document_and_linter(self, printed):
         self.assertIn(f"  {self.document}\n", printed)
-        self.assertIn(f'  jsonschema --output pretty -i "{self.document}" "{schema}"\n', printed)
+        self.assertIn("  metagen-lint --base <base.json> <stripped.json>\n", printed)
 
     def test_a_document_that_is_refused_fails_the_build(self):
         self.build()
         self.replace_document(self.document.read_text(encoding="utf-8")[:1000])
         printed = self.build(fails=True)
         self.assertIn("metagen genm: the given json file has errors inside\n", printed)
-        self.assert_names_document_and_schema(printed)
+        self.assert_names_document_and_linter(printed)
         self.build(fails=True)  # and not only at first
         self.doCleanups()
         self.assert_host_agrees()
@@ -165,7 +185,7 @@ metagen_generate_tables(TARGET host DOCUMENT combined.json {argument})
         printed = self.build(fails=True)
         self.assertIn("meta.generated.bin: at byte 128: the table ends too early\n", printed)
         self.assertIn('scaling condition whose "value" is', printed)
-        self.assert_names_document_and_schema(printed)
+        self.assert_names_document_and_linter(printed)
         self.build(fails=True)
 
 

@@ -80,6 +80,7 @@ class DebTest(unittest.TestCase):
                          b" shared object file: No such file or directory]\nstatus 1\n",
                          results["no_sdk.txt"])
         self.assertEqual(b"", results["audit.txt"])
+        self.assertEqual(b"", results["findings.txt"])
         before, after = (set(results[name].decode().splitlines())
                          for name in ("before.txt", "after.txt"))
         self.assertGreater(len(before), 1000)

@@ -12,6 +12,7 @@ dpkg --install metagen.deb
 dpkg --configure --pending # what dpkg puts off for the end of a whole installation
 dpkg --audit >audit.txt
 test -f /usr/share/man/man1/metagen.1.gz
+test -f /usr/share/man/man1/metagen-lint.1.gz
 
 metagen dump -o none.json >no_sdk.txt || echo "status $?" >>no_sdk.txt
 export QYRA_SDK=/usr/lib/metagen/replay_sdk
@@ -19,6 +20,9 @@ metagen dump -o base.json
 metagen combine -i stripped.json -o combined.json >summary.txt
 metagen genh -i combined.json -o genh
 metagen genm -i combined.json -o genm
+echo '{"version": 1, "plugins": {"OptionSettings": {"params": {"log_level": {"defaultValue": "3"}}}}}' \
+    >clean.json
+metagen-lint clean.json >findings.txt
 metagen-report base.json combined.json -o page.html
 metagen-show genm.bin >genm.txt
 

@@ -13,9 +13,9 @@ LAUNCHER = [word for word in [os.environ.get("METAGEN_LAUNCHER")] if word]
 GOLDEN = ROOT / "tests" / "golden"
 
 TOOL = {
-    "bin/metagen.exe", "bin/metagen-report", "bin/metagen-show",
+    "bin/metagen.exe", "bin/metagen-lint.exe", "bin/metagen-report", "bin/metagen-show",
     "lib/cmake/metagen/metagenConfig.cmake",
-    "share/doc/metagen/manual.html", "share/doc/metagen/LICENSE",
+    "share/doc/metagen/manual.html", "share/doc/metagen/lint.html", "share/doc/metagen/LICENSE",
     "share/doc/metagen/examples/host/main.cpp", "share/metagen/schemas/stripped.schema.json",
 }
 REPLAY_SDK = "lib/metagen/replay_sdk"
