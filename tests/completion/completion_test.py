@@ -8,6 +8,14 @@ import unittest
 
 from shell import COMPLETIONS, Shell
 
+LINT_LINES = {
+    "metagen-lint --ba": "metagen-lint --base ",
+    "metagen-lint --st": "metagen-lint --strict ",
+    "metagen-lint --base b": "metagen-lint --base base.json ",
+    "metagen-lint --format s": "metagen-lint --format sarif ",
+    "metagen-lint --strict m": "metagen-lint --strict my\\ stripped.json ",
+    "metagen-lint --disable scaling-u": "metagen-lint --disable scaling-unit ",
+}
 # Lines and what the Tab key makes of them, in a folder with the files below.
 FILES = ("base.json", "combined.json", "my stripped.json", "notes.txt", "tables.inl", "tables.bin",
          "sub/inner.json", "sub/inner.txt", "sub/parts.inl", "sub/parts.bin")
@@ -54,14 +62,15 @@ class CompletionTest(unittest.TestCase):
 
     def completed(self, shell_name):
         with Shell(shell_name, self.folder) as shell:
-            return {line: shell.complete(line) for line in [*LINES, "metagen genh -i n"]}
+            return {line: shell.complete(line)
+                    for line in [*LINES, *LINT_LINES, "metagen genh -i n"]}
 
     def test_bash(self):
-        self.assertEqual(LINES | {"metagen genh -i n": "metagen genh -i n"}, self.completed("bash"))
+        self.assertEqual(LINES | LINT_LINES | {"metagen genh -i n": "metagen genh -i n"}, self.completed("bash"))
 
     def test_zsh(self):
         # As zsh has it: where no file fits, any file is offered.
-        self.assertEqual(LINES | {"metagen genh -i n": "metagen genh -i notes.txt "},
+        self.assertEqual(LINES | LINT_LINES | {"metagen genh -i n": "metagen genh -i notes.txt "},
                          self.completed("zsh"))
 
     def offered_by_bash(self, *words):

@@ -7,11 +7,16 @@ import pexpect
 
 COMPLETIONS = pathlib.Path(__file__).resolve().parents[2] / "completions"
 
+# metagen-lint is asked for its rules.
+BUILD = pathlib.Path(os.environ.get(
+    "METAGEN_BUILD", COMPLETIONS.parent / "build" / "release")).resolve()
+
 # Control-T shows the line as it stands, between marks. The marks are put together by the shell, so
 # that the echo of these lines doesn't look like an answer.
 _SHELLS = {
     "bash": (["bash", "--norc", "--noprofile", "-i"], rf"""
 source '{COMPLETIONS}/metagen.bash'
+source '{COMPLETIONS}/metagen-lint.bash'
 bind 'set bell-style none' 'set enable-bracketed-paste off'
 show() {{ printf '%s%s%s' '<''<' "$READLINE_LINE" '>''>'; }}
 bind -x '"\C-t": show'
@@ -35,8 +40,8 @@ class Shell:
         command, setup = _SHELLS[name]
         self._terminal = pexpect.spawn(
             command[0], command[1:], cwd=folder, encoding="utf-8", timeout=120,
-            env={"PATH": os.environ["PATH"], "TERM": "dumb", "PS1": "", "HOME": str(folder),
-                 "LANG": "C.UTF-8"})
+            env={"PATH": f"{BUILD}:{os.environ['PATH']}", "TERM": "dumb", "PS1": "",
+                 "HOME": str(folder), "LANG": "C.UTF-8"})
         self._terminal.delaybeforesend = None
         self._terminal.send(setup + "echo 're''ady'\n")
         self._terminal.expect_exact("ready")
