@@ -44,7 +44,7 @@ class ReadmeTest(unittest.TestCase):
 
             self.assertEqual(
                 ["base.json", "changes.html", "combined.json", "handlers.bin", "handlers.inl",
-                 "parameters.bin", "parameters.inl", "stripped.json"],
+                 "mistake.json", "parameters.bin", "parameters.inl", "stripped.json"],
                 sorted(path.name for path in home.iterdir()))
             self.assertIn('\t.add("fog_color", HandlerTypes::Color, 0.9f, 1.f, 0.95f);\n',
                           (home / "handlers.inl").read_text(encoding="utf-8"))
