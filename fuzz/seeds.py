@@ -11,6 +11,7 @@ GOLDEN = ROOT / "tests" / "golden"
 sys.path.insert(0, str(ROOT / "tests" / "oracle"))
 from random_catalogue import random_catalogue  # noqa: E402
 from random_combined import random_combined  # noqa: E402
+from random_lint import random_lint  # noqa: E402
 from random_meta import random_meta  # noqa: E402
 from random_stripped import Documents  # noqa: E402
 
@@ -47,6 +48,12 @@ def stripped_and_live():
         yield b"\f".join([json_bytes(documents.stripped), json_bytes({"plugins": documents.live})])
 
 
+def stripped_and_base():
+    for seed in SEEDS:
+        base, stripped = random_lint(seed)
+        yield b"\f".join([json_bytes(stripped), json_bytes(base)])
+
+
 def combined():
     for text in golden_documents("combine", "genh", "genm"):
         yield from plugins_of(text)
@@ -74,6 +81,7 @@ TARGETS = {
     "generators": combined,
     "host_tables": tables,
     "json": lambda: (text for make in (combined, stripped_and_live) for text in make()),
+    "lint": stripped_and_base,
 }
 
 
