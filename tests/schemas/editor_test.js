@@ -1,5 +1,4 @@
-// What an editor makes of the schema of stripped documents: asks the JSON language service that
-// common editors share for completions, hovers and findings.
+// What an editor makes of the schema of stripped documents.
 "use strict";
 
 const assert = require("node:assert");
@@ -7,52 +6,13 @@ const fs = require("node:fs");
 const path = require("node:path");
 const { test } = require("node:test");
 
-const { getLanguageService, TextDocument } = require("vscode-json-languageservice");
+const { editor } = require("./editor.js");
 
 const ROOT = path.join(__dirname, "..", "..");
 const schema = JSON.parse(
   fs.readFileSync(path.join(ROOT, "schemas", "stripped.schema.json"), "utf8"));
 
-const service = getLanguageService({});
-service.configure({
-  validate: true,
-  schemas: [{ uri: "file:///stripped.schema.json", fileMatch: ["*.json"], schema }],
-});
-
-/** The document of a text, the place of the "|" in it, and the parsed document. */
-function open(text) {
-  const [before, after = ""] = text.split("|");
-  const document = TextDocument.create("file:///stripped.json", "json", 1, before + after);
-  return { document, position: document.positionAt(before.length), parsed:
-    service.parseJSONDocument(document) };
-}
-
-/** What is offered at the "|", in order. */
-async function offered(text) {
-  const { document, position, parsed } = open(text);
-  const { items } = await service.doComplete(document, position, parsed);
-  return items.map((item) => item.label.replaceAll('"', "")).sort();
-}
-
-/** What is shown of the key or value at the "|". */
-async function shown(text) {
-  const { document, position, parsed } = open(text);
-  const hover = await service.doHover(document, position, parsed);
-  return [hover?.contents ?? []].flat().join("\n").replaceAll("\\", "");
-}
-
-/** The texts that are marked as wrong. */
-async function marked(text) {
-  const { document, parsed } = open(text);
-  const findings = await service.doValidation(document, parsed);
-  return findings.map((finding) => document.getText(finding.range));
-}
-
-/** What is said of the texts that are marked. */
-async function said(text) {
-  const { document, parsed } = open(text);
-  return (await service.doValidation(document, parsed)).map((finding) => finding.message);
-}
+const { offered, shown, marked, said } = editor({ schema });
 
 const inPlugin = (text) => `{"plugins": {"A": {${text}}}}`;
 const inParameter = (text) => inPlugin(`"params": {"p": {${text}}}`);
