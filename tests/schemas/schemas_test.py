@@ -4,6 +4,7 @@ every wrong one of a table, for the right reason."""
 import copy
 import json
 import pathlib
+import re
 import unittest
 
 from jsonschema import Draft202012Validator
@@ -100,6 +101,22 @@ class SchemasTest(unittest.TestCase):
                 described = "description" in value or "description" in schema["$defs"][target]
                 with self.subTest(f"{kind} {place}"):
                     self.assertTrue(described)
+
+    def test_they_know_the_types_of_the_vocabulary(self):
+        rows = (ROOT / "src" / "sdk" / "parameter_type.h").read_text(encoding="utf-8")
+        names = set(re.findall(r'^ +\{type_code::\w+, "([^"]+)"', rows, re.MULTILINE))
+        self.assertGreater(len(names), 10)
+        # The SDK's doubles are called float, and documents may call two textures by other names.
+        base = names - {"double"}
+        stripped = base | {"acolor texture", "color texture"}
+        for kind, expected in (("base", base), ("stripped", stripped), ("combined", stripped)):
+            definitions = schema_of(kind)["$defs"]
+            for key in ("type", "listType"):
+                known = definitions["parameter"]["properties"][key]
+                if "$ref" in known:
+                    known = definitions[known["$ref"].removeprefix("#/$defs/")]
+                with self.subTest(f"{kind} {key}"):
+                    self.assertEqual(sorted(expected), sorted(known["enum"]))
 
     def test_what_two_of_them_share_is_equal(self):
         stripped, combined = schema_of("stripped")["$defs"], schema_of("combined")["$defs"]
