@@ -2,20 +2,29 @@
 // findings in a document's text, in which a "|" stands for the cursor.
 "use strict";
 
+const fs = require("node:fs");
+const url = require("node:url");
+
 const { getLanguageService, TextDocument } = require("vscode-json-languageservice");
 
-/** What the editor makes of texts of stripped.json, by the schema. */
-exports.editor = ({ schema }) => {
-  const service = getLanguageService({});
+/** What the editor makes of texts of a file stripped.json, by the schema, or without one by that
+ * which the text names, relative to the folder. */
+exports.editor = ({ schema, folder = "/" }) => {
+  const uri = url.pathToFileURL(`${folder}/stripped.json`).href;
+  const service = getLanguageService({
+    schemaRequestService: (file) => fs.promises.readFile(new URL(file), "utf8"),
+    workspaceContext: { resolveRelativePath: (name, from) => new URL(name, from).href },
+  });
   service.configure({
     validate: true,
-    schemas: [{ uri: "file:///stripped.schema.json", fileMatch: ["*.json"], schema }],
+    schemas: schema
+      ? [{ uri: "file:///stripped.schema.json", fileMatch: ["*.json"], schema }] : [],
   });
 
   /** The document of a text, the place of the "|" in it, and the parsed document. */
   function open(text) {
     const [before, after = ""] = text.split("|");
-    const document = TextDocument.create("file:///stripped.json", "json", 1, before + after);
+    const document = TextDocument.create(uri, "json", 1, before + after);
     return { document, position: document.positionAt(before.length), parsed:
       service.parseJSONDocument(document) };
   }
@@ -34,18 +43,16 @@ exports.editor = ({ schema }) => {
     return [hover?.contents ?? []].flat().join("\n").replaceAll("\\", "");
   }
 
-  /** The texts that are marked as wrong. */
-  async function marked(text) {
+  /** What is marked as wrong, by lines counted from 1: its text, and what is said of it. */
+  async function findings(text) {
     const { document, parsed } = open(text);
-    const findings = await service.doValidation(document, parsed);
-    return findings.map((finding) => document.getText(finding.range));
+    return (await service.doValidation(document, parsed)).map(({ range, message }) =>
+      ({ line: range.start.line + 1, text: document.getText(range), message }))
+      .sort((left, right) => left.line - right.line);
   }
 
-  /** What is said of the texts that are marked. */
-  async function said(text) {
-    const { document, parsed } = open(text);
-    return (await service.doValidation(document, parsed)).map((finding) => finding.message);
-  }
+  const marked = async (text) => (await findings(text)).map((finding) => finding.text);
+  const said = async (text) => (await findings(text)).map((finding) => finding.message);
 
-  return { offered, shown, marked, said };
+  return { offered, shown, findings, marked, said };
 };
