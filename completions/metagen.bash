@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # Completion of metagen's command line for bash: commands, the options that each takes and that are
-# not given yet, and the files that fit them; and of metagen-show's. Needs no package beyond bash.
+# not given yet, and the files that fit them; and of metagen-schema's and metagen-show's. Needs no
+# package beyond bash.
 
 # Fills COMPREPLY with the files named like the word that fit the pattern, and with folders.
 _metagen_files() {
@@ -51,5 +52,21 @@ _metagen() {
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
 }
 
+_metagen_schema() {
+    local word=${COMP_WORDS[COMP_CWORD]} options='--base -o' given
+    COMPREPLY=()
+    case ${COMP_WORDS[COMP_CWORD - 1]} in
+        --base | -o)
+            _metagen_files '*.json' "$word"
+            return
+            ;;
+    esac
+    for ((given = 1; given < COMP_CWORD; given += 2)); do
+        options=${options//"${COMP_WORDS[given]}"/}
+    done
+    mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
+}
+
 complete -F _metagen metagen
+complete -F _metagen_schema metagen-schema
 complete -o filenames -o plusdirs -f -X '!*.bin' metagen-show

@@ -43,6 +43,10 @@ LINES = {
     "metagen genh -o t": "metagen genh -o tables ",
     "metagen genm -o sub/p": "metagen genm -o sub/parts ",
     "metagen genm -x t": "metagen genm -x t",
+    "metagen-schema --b": "metagen-schema --base ",
+    "metagen-schema --base b": "metagen-schema --base base.json ",
+    "metagen-schema --base base.json -": "metagen-schema --base base.json -o ",
+    "metagen-schema -o sub/": "metagen-schema -o sub/inner.json ",
     "metagen-show t": "metagen-show tables.bin ",
     "metagen-show sub/p": "metagen-show sub/parts.bin ",
 }

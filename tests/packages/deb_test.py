@@ -76,6 +76,7 @@ class DebTest(unittest.TestCase):
             with self.subTest(name):
                 self.assertEqual(expected.read_bytes(), results[name])
         self.assertIn(b"<!doctype html>", results["page.html"].lower())
+        self.assertIn(b'"MeshFile": {', results["s.schema.json"])
         self.assertEqual(b"Cannot load Qyra SDK Library file. [libQyraSDKLibrary.so: cannot open"
                          b" shared object file: No such file or directory]\nstatus 1\n",
                          results["no_sdk.txt"])

@@ -24,6 +24,7 @@ echo '{"version": 1, "plugins": {"OptionSettings": {"params": {"log_level": {"de
     >clean.json
 metagen-lint clean.json >findings.txt
 metagen-report base.json combined.json -o page.html
+metagen-schema -o s.schema.json
 metagen-show genm.bin >genm.txt
 
 dpkg --purge metagen

@@ -13,7 +13,8 @@ LAUNCHER = [word for word in [os.environ.get("METAGEN_LAUNCHER")] if word]
 GOLDEN = ROOT / "tests" / "golden"
 
 TOOL = {
-    "bin/metagen.exe", "bin/metagen-lint.exe", "bin/metagen-report", "bin/metagen-show",
+    "bin/metagen.exe", "bin/metagen-lint.exe", "bin/metagen-report", "bin/metagen-schema",
+    "bin/metagen-show",
     "lib/cmake/metagen/metagenConfig.cmake",
     "share/doc/metagen/manual.html", "share/doc/metagen/lint.html", "share/doc/metagen/LICENSE",
     "share/doc/metagen/examples/host/main.cpp", "share/metagen/schemas/stripped.schema.json",
