@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "metadata/key_order.h"
+#include "support/memory.h"
 
 namespace metagen {
 
@@ -66,7 +67,7 @@ private:
 
 std::string combinedText(json::Object document, std::size_t expectedSize) {
     CombinedWriter writer;
-    writer.out.reserve(expectedSize);
+    reserveText(writer.out, expectedSize);
     writer.append(document);
     return std::move(writer.out);
 }

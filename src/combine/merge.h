@@ -6,7 +6,7 @@
 
 #include "combine/combine_report.h"
 #include "json/value.h"
-#include "support/arena.h"
+#include "support/memory.h"
 
 namespace metagen {
 

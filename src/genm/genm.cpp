@@ -10,6 +10,7 @@
 #include "model/binary_table.h"
 #include "model/meta_model.h"
 #include "support/end_run.h"
+#include "support/memory.h"
 #include "support/numbers.h"
 #include "support/text_file.h"
 
@@ -90,8 +91,8 @@ void genm(const char* inputPath, const char* outputBase) {
     const json::Object plugins = pluginsOrExit(document.root());
     const double version = versionOrExit(document.root());
     // About as much: text that grows in steps costs memory, and a copy, for each.
-    source.content.reserve(document.text().size());
-    table.content.reserve(document.text().size());
+    reserveText(source.content, document.text().size());
+    reserveText(table.content, document.text().size());
     generate(readMeta(plugins), version, std::move(source), std::move(table));
 }
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "json/value.h"
-#include "support/arena.h"
+#include "support/memory.h"
 
 namespace metagen::json {
 

@@ -14,8 +14,8 @@
 #include <picojson.h>
 
 #include "json/value.h"
-#include "support/arena.h"
 #include "support/escapes.h"
+#include "support/memory.h"
 
 namespace metagen::json {
 

@@ -9,7 +9,7 @@
 
 #include "json/document.h"
 #include "json/value.h"
-#include "support/arena.h"
+#include "support/memory.h"
 
 namespace metagen::lint {
 

@@ -44,7 +44,7 @@ std::string BaseDocument::text() const {
     std::size_t length = 0;
     forEachPiece([&length](std::string_view piece) { length += piece.size(); });
     std::string document;
-    document.reserve(length);
+    reserveText(document, length);
     forEachPiece([&document](std::string_view piece) { document += piece; });
     return document;
 }

@@ -11,7 +11,7 @@
 
 #include "metadata/key_order.h"
 #include "sdk/renderer.h"
-#include "support/arena.h"
+#include "support/memory.h"
 
 namespace metagen {
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "support/end_run.h"
+#include "support/memory.h"
 
 namespace metagen {
 
@@ -16,7 +17,9 @@ File openForWriting(const char* path, const char* mode) { return File(std::fopen
 std::optional<std::string> readAll(std::FILE* file) {
     constexpr std::size_t smallestRead = std::size_t{1} << 12U;
     // One more than the size, so that the end shows at once.
-    std::string text(std::max(sizeOf(file) + 1, smallestRead), '\0');
+    std::string text;
+    reserveText(text, std::max(sizeOf(file) + 1, smallestRead));
+    text.resize(text.capacity());
     std::size_t size = 0;
     while ((size += std::fread(&text[size], 1, text.size() - size, file)) == text.size()) {
         text.resize(2 * text.size());  // it has grown, or is of no known size
