@@ -25,6 +25,10 @@ const FakeClass* classOf(const char* typeText) {
     return found == current->classes.end() ? nullptr : &*found;
 }
 
+const FakeParameter* definitionOf(const char* typeText, std::string_view name) {
+    return &*std::ranges::find(classOf(typeText)->parameters, name, &FakeParameter::name);
+}
+
 const FakePlugin* pluginOf(std::int64_t id) {
     const auto found = current->plugins.find(id);
     return found == current->plugins.end() ? nullptr : &found->second;
@@ -41,7 +45,9 @@ void* namesOf(const std::vector<Named>& items) {
 
 /// The entry points, answering from the test data in place.
 struct FakeEntryPoints {
-    static void* create(const void* /*options*/, std::int32_t* errorCode) {
+    static void* create(const void* options, std::int32_t* errorCode) {
+        EXPECT_EQ(options, nullptr);
+        EXPECT_EQ(*errorCode, 0);
         current->calls.emplace_back("create");
         *errorCode = current->refusesRenderers ? 77 : 0;
         if (current->refusesRenderers) return nullptr;
@@ -51,7 +57,7 @@ struct FakeEntryPoints {
     static void setUserData(void* renderer, std::int32_t slot, void* userData) {
         EXPECT_EQ(renderer, current->renderer());
         EXPECT_EQ(slot, 0);
-        EXPECT_NE(userData, nullptr);
+        current->userData = userData;
         current->calls.emplace_back("setUserData");
     }
     static std::uint32_t typeIds(void* /*renderer*/, std::int64_t** ids) {
@@ -100,12 +106,12 @@ struct FakeEntryPoints {
         return found == nullptr || found->hasNullNames ? nullptr : namesOf(found->parameters);
     }
     static const void* definition(void* /*renderer*/, const char* typeText, const char* name) {
-        const FakeClass* found = classOf(typeText);
         current->calls.emplace_back(std::string("definition ") + name);
-        return &*std::ranges::find(found->parameters, name, &FakeParameter::name);
+        return definitionOf(typeText, name);
     }
-    static std::int32_t gpuSupport(void* /*renderer*/, const char* /*typeText*/,
-                                   const void* definition) {
+    static std::int32_t gpuSupport(void* renderer, const char* typeText, const void* definition) {
+        EXPECT_EQ(renderer, current->renderer());
+        EXPECT_EQ(definitionOf(typeText, parameterOf(definition).name), definition);
         current->calls.emplace_back("gpuSupport " + parameterOf(definition).name);
         return 1;
     }

@@ -74,6 +74,7 @@ public:
     std::map<std::int64_t, FakePlugin> plugins;  ///< by plugin id, as the queries pass it
     bool refusesRenderers = false;
     bool hasNullClassNames = false;
+    const void* userData = nullptr;  ///< that the renderer was given
     std::vector<std::string> calls;  ///< create, release, free, ... in their order
 
 private:

@@ -21,6 +21,7 @@ TEST(Renderer, IsTiedToItsObjectAndReleasedBeforeItsTypeIds) {
     FakeSdk sdk;
     {
         const Renderer renderer;
+        EXPECT_EQ(sdk.userData, &renderer);
         EXPECT_EQ(renderer.pluginClassTypeIds().size(), 3U);
         EXPECT_EQ(renderer.pluginClassTypeIds()[2], 3);
     }
