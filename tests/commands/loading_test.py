@@ -130,6 +130,19 @@ class LoadingTest(CommandTest):
                         stdout=missing_message(library, ENTRY_POINTS[-1]),
                         environment={"QYRA_SDK": self.folder})
 
+    def test_a_missing_entry_point_ends_the_search(self):
+        library = self.write(f"first/{LIBRARY_NAME}", library_without(ENTRY_POINTS[-1]))
+        root = self.place_library("root/bin", "B").parent
+        self.assert_run(["dump", "-o", "base.json"], status=FAILURE,
+                        stdout=missing_message(library, ENTRY_POINTS[-1]),
+                        environment={"QYRA_APPSDK_BIN": library.parent, "QYRA_SDK": root})
+
+    def test_a_library_that_lacks_one_that_it_needs_is_passed_over(self):
+        root = self.place_library("root/bin", "B").parent
+        (self.folder / "first").mkdir()
+        shutil.copy(TEST_LIBRARIES / "dependent_sdk" / "bin" / LIBRARY_NAME, self.folder / "first")
+        self.assert_loads("B", appsdk_bin=self.folder / "first", sdk=root)
+
     def test_libraries_that_the_library_needs_are_found_beside_it(self):
         # It has no entry points: that the first is missed shows that it was loaded.
         root = TEST_LIBRARIES / "dependent_sdk"
