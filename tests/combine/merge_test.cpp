@@ -133,6 +133,15 @@ TEST(Merge, RecordsATypeAtTheTopWithoutAPlugin) {
               (Outcome{R"({"type":"x"})", {R"(plugin type:   "y" -> "x")"}}));
 }
 
+TEST(Merge, RecordsADefaultOfAPluginUnderItsLastParameter) {
+    EXPECT_EQ(merged(plugin(R"("defaultValue":"2")"), plugin(R"("defaultValue":"1")")),
+              (Outcome{plugin(R"("defaultValue":"2")"), {R"(default: P::  "1" -> "2")"}}));
+    EXPECT_EQ(merged(R"({"plugins":{"P":{"a":{"b":{}},"defaultValue":"2"}}})",
+                     R"({"plugins":{"P":{"a":{"b":{}}}}})"),
+              (Outcome{R"({"plugins":{"P":{"a":{"b":{}},"defaultValue":"2"}}})",
+                       {R"(default: P::b   -> "2")"}}));
+}
+
 TEST(Merge, TakesOutAPluginGivenAsNull) {
     EXPECT_EQ(merged(R"({"plugins":{"P":null}})", R"({"plugins":{"P":{},"Q":{}}})"),
               (Outcome{R"({"plugins":{"Q":{}}})", {"deprecation: P::"}}));

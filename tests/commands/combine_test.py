@@ -11,6 +11,7 @@ STRIPPED_BROKEN = "the given json file has errors inside"
 NO_OBJECT = '"type mismatch! call is<type>() before get<type>()" && is<object>()\n'
 NO_TEXT = '"type mismatch! call is<type>() before get<type>()" && is<std::string>()\n'
 NO_KEY = "invalid map<K, T> key\n"
+WRONG_GUIDE = "Wrong type of default values\n"
 
 ARGUMENTS = ["combine", "-i", "stripped.json", "-o", "combined.json"]
 
@@ -70,6 +71,16 @@ class WayOfTheData(CommandTest):
         self.assertEqual(0, self.run_combine("x\\u0041").status)
         self.assert_text_file("combined.json", '{"plugins":{"B":{"type":null,"params":{}},'
                                                '"xA":{"type":null,"params":{}}}}')
+
+    @unittest.skipIf(WINDOWS, "has no file that is standard output")
+    def test_the_summary_comes_before_the_document(self):
+        # Of both in one place: more deprecations than standard output keeps until the end.
+        names = [f"Plugin{number}" for number in range(2_000)]
+        catalogue = self.write("catalogue.json", json.dumps({"plugins": dict.fromkeys(names, {})}))
+        self.write("stripped.json", json.dumps({"plugins": dict.fromkeys(names)}))
+        run = self.run_metagen(*ARGUMENTS[:-1], "/dev/stdout", catalogue=catalogue)
+        self.assertEqual((0, b"Number"), (run.status, run.stdout[:6]))
+        self.assertIn(b'{"plugins":{}}', run.stdout)
 
     @unittest.skipUnless(COUNTED_WRITES.exists(), "not with this build")
     def test_the_document_is_one_write(self):
@@ -196,6 +207,17 @@ class CombinedDocument(CombineTest):
 
     def test_keys_are_not_escaped(self):
         self.assert_writes('{"a\\"b\\\\c": {"/": "/"}}', '{"a"b\\c":{"/":"\\/"},"plugins":{}}')
+
+    def test_keys_go_on_behind_a_nul(self):
+        added = '"M\0N":{"params":{"p\0q":{"type":"int","a\0b":1}}},'
+        self.assert_combines(
+            {"plugins": {"M\0N": {"params": {"p\0q": {"type": "int", "a\0b": 1}}}}},
+            LIVE_TEXT.replace('"MtlA"', added + '"MtlA"'), summary())
+        self.assert_prints({"plugins": {"A": None, "M\0N": {"type": "light"}}},
+                           summary(plugin_types=['M\0N   -> "light"']))
+        clash = {"params": user_data("p\0q"), "userData": user_data("p\0q")}
+        self.assert_failure({"plugins": {"M\0N": clash}}, status=BROKEN_METADATA,
+                            stdout="M\0N has duplicated named param and userdata - p\0q \n")
 
     def test_keys_outside_ascii_come_first(self):
         self.assert_writes('{"\u00e9": 1, "e": 2, "\u20ac": 3}',
@@ -425,6 +447,15 @@ class Failure(CombineTest):
         self.assert_failure("{}", {"A": {"categories": [2, 6]}}, status=FAILURE,
                             stdout="Plugin type: A has multiple incompatible categories:\n"
                                    "\tnode\n\trender_channel\n")
+
+    def test_a_class_that_the_sdk_describes_wrongly(self):
+        def live(code, **described):
+            return {"A": {"params": {"p": {"typeCode": code, "default": {"kind": 10000},
+                                           **described}}}}
+
+        self.assert_failure("{}", live(18), status=BROKEN_METADATA,
+                            stdout="Error No Ovix Type!\n")
+        self.assert_failure("{}", live(9, guide={"float": 1}), stderr=WRONG_GUIDE)
 
     def test_an_object_over_a_live_leaf(self):
         for stripped in ({"plugins": {"MtlA": {"type": {"a": 1}}}},
