@@ -109,6 +109,11 @@ TEST(DiffObjects, WritesValuesAsTheJsonLibraryDoes) {
               ":c different values are true and 9007199254740992\n");
 }
 
+TEST(DiffObjects, NamesGoOnBehindANul) {
+    EXPECT_EQ(reportOf(R"({"a\u0000b":{"c\u0000d":1}})", R"({"a\u0000b":{}})"),
+              std::string(":a\0b:c\0d is only present on left side\n", 38));
+}
+
 TEST(DiffObjects, AppendsToTheReport) {
     std::string report = "before\n";
     const json::Document left(R"({"a":1})");
