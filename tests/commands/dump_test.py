@@ -48,6 +48,9 @@ class DumpTest(CommandTest):
                           {"B.C": {"type": "uvw"}, "b_c": {"type": "light"}},
                           classNames=["b_c", "B.C", "b_c"])
 
+    def test_a_line_feed_in_a_name_is_the_platforms(self):
+        self.assert_dumps('{"A\nB":{"type":null,"params":{}}}', {"A\nB": {}})
+
     def test_parameters_that_differ_in_case_or_underscore_only(self):
         self.assert_dumps('{"A":{"type":null,"params":{"x_y":{"type":"bool","defaultValue":"1"}}}}',
                           {"A": {"params": {"X.y": parameter(),
@@ -151,6 +154,11 @@ class DumpTest(CommandTest):
                   status=ABORTED, stderr=WRONG_TYPE)
         self.dump({"A": {"params": {"p": parameter(typeCode=5, guide={"floats": [1, 2]})}}},
                   status=ABORTED, stderr=WRONG_SIZE)
+
+    def test_parameters_are_read_before_the_category(self):
+        self.dump({"A": {"categories": [2, 6],
+                         "params": {"p": parameter(typeCode=9, guide={"float": 1})}}},
+                  status=ABORTED, stderr=WRONG_TYPE)
 
     def test_some_type_codes_are_left_out(self):
         codes = (1000, 1001, 1002, 1003, 1004, 1005, 10000)
