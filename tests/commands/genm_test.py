@@ -1,5 +1,6 @@
 """The command genm: its order of checks, its messages, what a failing run leaves, its outputs."""
 
+import json
 import runpy
 import sys
 import unittest
@@ -22,6 +23,8 @@ NO_VERSION = "no version number"
 WRONG_OBJECT = '"type mismatch! call is<type>() before get<type>()" && is<object>()\n'
 WRONG_TEXT = '"type mismatch! call is<type>() before get<type>()" && is<std::string>()\n'
 NO_KEY = "invalid map<K, T> key\n"
+UNKNOWN_UNIT = "Error: Unsupported scaling condition unit type\n"
+UNKNOWN_OPERATION = "Error: Unsupported scalling condiiton operation type\n"
 
 EMPTY_INL = """\
 //unique value arrays
@@ -184,16 +187,31 @@ class FailingScaling(FailingRuns):
 
     def test_another_unit(self):
         self.assert_complete_table(
-            '{"unit": 2}', "Error: Unsupported scaling condition unit type\n",
+            '{"unit": 2}', UNKNOWN_UNIT,
             b"\x01\0\0\0" b"\x01\0\0\0A" b"\x01\0\0\0" b"\x01\0\0\0a" b"\x02\0\0\0" b"\x01\0\0\0"
             b"\0" b"\0\0\0\0")
 
     def test_another_operation(self):
         self.assert_complete_table(
             '{"unit": 1, "conditions": [{"op": 2, "ref": "d", "value": 3}]}',
-            "Error: Unsupported scalling condiiton operation type\n",
+            UNKNOWN_OPERATION,
             b"\x01\0\0\0" b"\x01\0\0\0A" b"\x01\0\0\0" b"\x01\0\0\0a" b"\x01\0\0\0" b"\x01\0\0\0"
             b"\0" b"\x01\0\0\0" b"\x01\0\0\0d" b"\x02\0\0\0" b"\x0a\x01\0\0" b"\x03\0\0\0")
+
+    def test_the_text_names_the_first_of_several_faults(self):
+        conditions = [{"op": 2, "ref": "a", "value": 1}]
+        unit, operation = ({"type": "float", "scaling": {"unit": unit, "conditions": conditions}}
+                           for unit in (2, 1))
+        for plugins, message in (
+                ({"A": {"a": unit}}, UNKNOWN_UNIT),
+                ({"A": {"a": unit, "b": operation}}, UNKNOWN_UNIT),
+                ({"A": {"a": operation, "b": unit}}, UNKNOWN_OPERATION),
+                ({"A": {"a": operation}, "B": {"a": unit}}, UNKNOWN_OPERATION),
+                ({"A": {"a": unit}, "B": {"a": operation}}, UNKNOWN_UNIT)):
+            with self.subTest(plugins=plugins):
+                self.run_on(json.dumps({"version": 1, "plugins": {
+                    name: {"params": parameters} for name, parameters in plugins.items()}}),
+                            status=BROKEN_METADATA, stdout=message)
 
     def test_a_condition_on_an_unknown_parameter(self):
         for condition in ('{"op": 1, "ref": "x", "value": 1}', '{"op": 1, "ref": "x"}', "{}"):

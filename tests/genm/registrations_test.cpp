@@ -90,6 +90,14 @@ TEST(Registrations, TypeNamesStandAsTheDocumentHasThem) {
     EXPECT_EQ(source(model), "m.add(\"A\", \"\")\n\t.add(\"a\", \"acolor texture\", 0, \"\");\n\n");
 }
 
+TEST(Registrations, NamesAreNotEscaped) {
+    const ReadModel model(
+        R"({'A\"': {'type': '\\', 'params': {'b\\\n\u0001': {'type': 'float'}}}})");
+    EXPECT_EQ(source(model),
+              "m.add(\"A\"\", \"\\\")\n"
+              "\t.add(\"b\\\n\x01\", \"float\", 0, \"\");\n\n");
+}
+
 TEST(Registrations, EqualDefaultsShareTheirArrayAcrossPlugins) {
     const ReadModel model(
         "{'A': {'params': {'a': {'type': 'color', 'defaultValue': 'Color(1, 1, 1)'},"

@@ -61,6 +61,14 @@ TEST(ValueArrays, OfDifferentLengthsAreDifferent) {
     EXPECT_EQ(intern(groups, "flt", {}), "flt2");
 }
 
+TEST(ValueArrays, OfEqualHashesMayBeDifferent) {
+    ValueArrays groups;
+    EXPECT_EQ(intern(groups, "flt", {345.75F, 17, 1}), "flt0");
+    EXPECT_EQ(intern(groups, "flt", {192.5F, 1.25F, -127374912}), "flt1");
+    EXPECT_EQ(intern(groups, "flt", {345.75F, 17, 1}), "flt0");
+    EXPECT_EQ(intern(groups, "flt", {192.5F, 1.25F, -127374912}), "flt1");
+}
+
 TEST(ValueArrays, TheOrderOfTheValuesCounts) {
     ValueArrays groups;
     EXPECT_EQ(intern(groups, "flt", {1, 2}), "flt0");
