@@ -62,6 +62,14 @@ TEST(BinaryTable, ATextIsItsLengthAndItsBytes) {
     EXPECT_EQ(text("\0\n\xff"sv), "\x03\0\0\0\0\n\xff"sv);
 }
 
+TEST(BinaryTable, CountsAndLengthsHave32Bits) {
+    EXPECT_EQ(appended([](std::string& table) { appendCount(table, 0xfffefdfcU); }),
+              "\xfc\xfd\xfe\xff");
+    const std::string record = text(std::string(0x1'0002, 'a'));
+    EXPECT_EQ(record.substr(0, 5), "\x02\0\x01\0a"sv);
+    EXPECT_EQ(record.size(), 0x1'0006U);
+}
+
 TEST(BinaryTable, NumbersHaveNoCount) {
     EXPECT_EQ(numbers<float>(std::array{1.0F, -2.0F}), "\0\0\x80\x3f\0\0\0\xc0"sv);
     EXPECT_EQ(numbers<std::int32_t>(std::array{1, -2}), "\x01\0\0\0\xfe\xff\xff\xff"sv);
