@@ -118,6 +118,8 @@ TEST(ReadDoublePrefix, ReadsInfinityAndNan) {
     EXPECT_EQ(readDoublePrefix("-INFINITY"), -infinity);
     EXPECT_TRUE(std::isnan(readDoublePrefix("nan")));
     EXPECT_TRUE(std::isnan(readDoublePrefix("-NaN(12)")));
+    EXPECT_FALSE(std::signbit(readDoublePrefix("nan")));
+    EXPECT_TRUE(std::signbit(readDoublePrefix("-nan")));
 }
 
 TEST(ReadDoublePrefix, IsAnInfinityForTooLargeNumbers) {
@@ -188,6 +190,7 @@ TEST(ParseFloat, ReadsHexadecimalInfinityAndNan) {
     EXPECT_EQ(parseFloat("inf"), std::numeric_limits<float>::infinity());
     EXPECT_EQ(parseFloat("-Infinity"), -std::numeric_limits<float>::infinity());
     EXPECT_TRUE(std::isnan(parseFloat("nan")));
+    EXPECT_TRUE(std::signbit(parseFloat("-nan")));
 }
 
 TEST(ParseFloat, NoNumberIsAnInvalidArgument) {

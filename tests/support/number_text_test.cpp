@@ -93,6 +93,7 @@ TEST(GeneralNumber, InfinitiesAndNan) {
     EXPECT_EQ(general(std::numeric_limits<double>::infinity()), "inf");
     EXPECT_EQ(general(-std::numeric_limits<double>::infinity()), "-inf");
     EXPECT_EQ(general(std::numeric_limits<double>::quiet_NaN()), "nan");
+    EXPECT_EQ(general(-std::numeric_limits<double>::quiet_NaN()), "-nan");
 }
 
 TEST(IntegerText, SmallestAndLargest) {
