@@ -54,7 +54,11 @@ TEST(CheckTextureHandlers, ThrowsForPluginsThatAreNoObject) {
     EXPECT_EQ(messageOf([] { failuresOf("[]"); }), noObjectMessage);
 }
 
-TEST(CheckTextureHandlers, SkipsWhatIsNoPlugin) { EXPECT_EQ(failuresOf(R"({"P":1})"), Entries()); }
+TEST(CheckTextureHandlers, PassesOverWhatIsNoPlugin) {
+    const std::string more = R"("P":{"params":{},"userData":{"n_tex":{}}}})";
+    EXPECT_EQ(failuresOf(R"({"A":1,)" + more), failuresOf("{" + more));
+    EXPECT_EQ(failuresOf("{" + more).size(), 1U);
+}
 
 TEST(CheckTextureHandlers, NeverExaminesAPluginWithoutUserData) {
     EXPECT_EQ(failuresOf(R"({"P":{"params":{"n":{"handler":"FloatTexFrameHandler"}}}})"),
