@@ -111,6 +111,15 @@ TEST(Definition, AGuidesSequenceWithoutAnArrayIsEmpty) {
     EXPECT_EQ(Definition(&guided).defaultGuide().count, 0U);
 }
 
+TEST(Definition, AGuideThatTheSdkDoesNotFillIsNone) {
+    const FakeSdk sdk;
+    const FakeParameter guided = {.name = "p", .guide = FakeGuide{}};
+    entryPoints().Qyra_UIGuides_hasType = [](const void*, std::int32_t, std::int32_t*) {};
+    entryPoints().Qyra_UIGuides_getFloat = [](const void*, std::int32_t, float*) {};
+    EXPECT_FALSE(Definition(&guided).hasDefaultGuide());
+    EXPECT_EQ(Definition(&guided).defaultGuide().number, 0);
+}
+
 TEST(AskOrExit, GivesTheAnswer) {
     EXPECT_EQ(askOrExit([] { return 7; }), 7);
 }
