@@ -39,6 +39,13 @@ TEST(ReadFixedFields, NumbersTheFieldsFromTheTypeWord) {
     EXPECT_EQ(out, (std::array{7.0F, 2.0F}));
 }
 
+TEST(ReadFixedFields, ReadsTheWantedFieldsAlone) {
+    constexpr std::array fields = {1, 2, 3};
+    std::array<float, 3> out = {};
+    EXPECT_TRUE(readFixedFields("Color(1,2,3)", std::span(fields).first(2), out));
+    EXPECT_EQ(out, (std::array{1.0F, 2.0F, 0.0F}));
+}
+
 TEST(ReadFixedFields, KeepsWhatItReadWhenFieldsAreMissing) {
     std::array<float, 3> out = {};
     EXPECT_FALSE(readFixedFields("Color(1,2)", std::array{1, 2, 3}, out));

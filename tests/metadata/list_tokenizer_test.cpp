@@ -107,6 +107,7 @@ TEST(ListTokenizer, CutsAnElementWithTwoLevelsOfParentheses) {
 
 TEST(ListTokenizer, TakesWhatFollowsAnElementsParenthesesUpToTheComma) {
     EXPECT_EQ(elementsOf("List(a(1,1)b c , 2)"), Elements({"a(1,1)b c", "2"}));
+    EXPECT_EQ(elementsOf("List(a)(1,1), 2)"), Elements({"a)(1,1)", "2"}));
 }
 
 TEST(ListTokenizer, EndsTheLastElementAtItsParenthesis) {
