@@ -133,6 +133,13 @@ TEST(Document, MixedNestingHasTheSameBounds) {
     EXPECT_EQ(reserialised(nested(1000, "{\"a\":", "}").replace(1000 * 5, 1, "[1]")), "refused");
 }
 
+TEST(Document, AnyNumberMayStandSideBySide) {
+    std::string text = "[";
+    for (int i = 0; i < 2000; ++i) text += R"([],{},{"a":[{}]},)";
+    text += "0]";
+    EXPECT_EQ(reserialised(text), text);
+}
+
 TEST(Document, AHugeDepthEndsQuietly) {
     EXPECT_EQ(reserialised(std::string(5'000'000, '{')), "refused");
     EXPECT_EQ(reserialised(std::string(5'000'000, '[')), "refused");
