@@ -57,6 +57,7 @@ TEST(GeneralNumber, SixSignificantDigitsInTheShortestForm) {
 
 TEST(GeneralNumber, RoundsTiesToEven) {
     EXPECT_EQ(general(100000.5), "100000");
+    EXPECT_EQ(general(100000.5 + 1e-9), "100001");  // which no float tells from the tie
     EXPECT_EQ(general(100001.5), "100002");
     EXPECT_EQ(general(-250000.5), "-250000");
     EXPECT_EQ(general(0.5000005), "0.5");  // a little less than a tie, as a double
