@@ -46,7 +46,7 @@ TEST(Options, AStrayWordShiftsEveryLaterPair) {
 
 TEST(CommandWord, FoldsAsciiLettersOnly) {
     EXPECT_EQ(foldCommandWord("DuMp"), "dump");
-    EXPECT_EQ(foldCommandWord("GENM_1[\xc3\x84"), "genm_1[\xc3\x84");
+    EXPECT_EQ(foldCommandWord("@AZ[_1\xc3\x84"), "@az[_1\xc3\x84");
 }
 
 }  // namespace
