@@ -149,6 +149,9 @@ TEST(ListTokenizer, StartsAgainWithFirst) {
     EXPECT_EQ(tokenizer.next(), "2");
     EXPECT_EQ(tokenizer.next(), std::nullopt);
     EXPECT_EQ(tokenizer.next(), std::nullopt);
+    ListTokenizer noList("1, 2)");
+    EXPECT_EQ(noList.first(), std::nullopt);
+    EXPECT_EQ(noList.next(), std::nullopt);
 }
 
 }  // namespace
