@@ -60,6 +60,11 @@ TEST(FileTableText, OneLineForEachPlugin) {
               "};\n");
 }
 
+TEST(FileTableText, NamesAreNotEscaped) {
+    EXPECT_EQ(source({{"A\"\\", {"b\n\\"}}}),
+              "m.fileParams = {\n\t{ \"A\"\\\", {\"b\n\\\"}}\n};\n");
+}
+
 TEST(FileTableText, AnEmptyTableHasNoOpeningBrace) {
     EXPECT_EQ(source({}), "m.fileParams = \n};\n");
 }

@@ -140,6 +140,20 @@ TEST(ScalingTable, SeveralConditionsParametersAndPlugins) {
                                 u32(0));
 }
 
+TEST(ScalingTable, NamesAreNotEscaped) {
+    const ReadModel model(
+        R"({'A\"': {'params': {'b\\\n': {'type': 'float', 'scaling':)"
+        R"( {'unit': 1, 'conditions': [{'op': 1, 'ref': 'b\\\n', 'value': 1}]}}}}})");
+    EXPECT_EQ(source(model),
+              "m.scalingParams = {\n"
+              "\t{ \"A\"\", {\n"
+              "\t\t{ \"b\\\n\", { Scaling::UnitType::Scene, 1, false, {\n"
+              "\t\t\t{ \"b\\\n\", Scaling::Operation::Equals, 1.f }\n"
+              "\t\t}}}\n"
+              "\t}}\n"
+              "};\n");
+}
+
 TEST(ScalingTable, APluginsNameEndsAtItsFirstNul) {
     const ReadModel model(
         "{'A\\u0000x': {'params': {'a': {'type': 'float', 'scaling': {'unit': 1}}}}}");
