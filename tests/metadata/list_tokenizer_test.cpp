@@ -35,12 +35,13 @@ TEST(IsListText, CountsThePlacesFromTheFirstCharacterThatIsNoBlank) {
 }
 
 TEST(IsListText, SkipsTheLettersAfterList) {
-    EXPECT_TRUE(isListText("IntListXyz("));
+    EXPECT_TRUE(isListText("IntListAZaz("));
     EXPECT_TRUE(isListText("ListList("));
 }
 
 TEST(IsListText, WantsTheParenthesisRightAfterTheWord) {
-    for (const char* text : {"List (", "List2(", "List", "IntListX", "List List("}) {
+    for (const char* text : {"List (", "List2(", "List", "IntListX", "List List(", "List@(",
+                             "List[(", "List`(", "List{("}) {
         EXPECT_FALSE(isListText(text)) << text;
     }
 }
