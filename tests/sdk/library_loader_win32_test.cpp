@@ -83,6 +83,11 @@ TEST_F(LibraryLoader, TheErrorTextHasNoLineBreaks) {
     EXPECT_EQ(text.back(), ']');
 }
 
+TEST_F(LibraryLoader, TheErrorTextKeepsThePlaceOfAName) {
+    SetLastError(ERROR_BAD_EXE_FORMAT);
+    EXPECT_NE(lastLoadErrorText("p").find("%1"), std::string::npos);
+}
+
 TEST_F(LibraryLoader, AnErrorWithoutAMessageShowsItsNumber) {
     SetLastError(3000000001);
     EXPECT_EQ(lastLoadErrorText("p"), "p [3000000001]");
