@@ -63,6 +63,13 @@ TEST_F(TextFile, BytesStayAsTheyAre) {
     EXPECT_EQ(sizeOf(openForReading(path.c_str()).get()), 5U);
 }
 
+TEST_F(TextFile, ASizeIsTheNumberOfBytes) {
+    for (const std::size_t size : {0U, 1U, 70'000U}) {
+        writeAll(openForWriting(path.c_str()).get(), std::string(size, 'x'));
+        EXPECT_EQ(sizeOf(openForReading(path.c_str()).get()), size);
+    }
+}
+
 TEST_F(TextFile, AMissingFileOrFolderCanNotBeOpened) {
     EXPECT_EQ(openForReading(path.c_str()), nullptr);
     EXPECT_EQ(openForWriting((path + "/in/no/folder").c_str()), nullptr);
