@@ -27,7 +27,7 @@ def environment():
     return {**values, "QYRA_APPSDK_BIN": "/nowhere"}
 
 
-class Package(unittest.TestCase):
+class InstalledHost(unittest.TestCase):
     """The folders have a blank in their names, as they may have elsewhere."""
 
     maxDiff = None
