@@ -3,9 +3,9 @@
 #include <map>
 #include <utility>
 
+#include "replay_sdk/catalogue_node.h"
 #include "replay_sdk/class_reader.h"
 #include "replay_sdk/instance_reader.h"
-#include "replay_sdk/item.h"
 
 namespace metagen::replay {
 
@@ -18,19 +18,19 @@ constexpr std::array<std::string_view, 4> documentMembers = {"plugins", "instanc
 /// instances, since defaults that name plugins add some of their own, and then the parameters.
 class CatalogueReader {
 public:
-    explicit CatalogueReader(const Item& root)
+    explicit CatalogueReader(const CatalogueNode& root)
         : document(root), catalogue(std::make_unique<Catalogue>()) {}
 
     std::unique_ptr<Catalogue> read();
 
 private:
-    void readClasses(const Item& plugins);
-    void indexClasses(const Item& plugins);
-    void readAllParameters(const Item& plugins);
-    void readInstances(const Item& instances);
+    void readClasses(const CatalogueNode& plugins);
+    void indexClasses(const CatalogueNode& plugins);
+    void readAllParameters(const CatalogueNode& plugins);
+    void readInstances(const CatalogueNode& instances);
     std::int64_t instanceNamed(std::string_view name);
 
-    const Item& document;
+    const CatalogueNode& document;
     std::unique_ptr<Catalogue> catalogue;
     std::int64_t nextTypeId = 0x1000;
     std::int64_t nextInstanceId = 0x100000;
@@ -40,29 +40,30 @@ private:
 std::unique_ptr<Catalogue> CatalogueReader::read() {
     const auto [plugins, instances, names, errorCode] = membersOf(document, documentMembers);
     if (plugins == nullptr) document.fail("must have \"plugins\"");
-    const Item pluginsItem(document, "plugins", *plugins);
-    readClasses(pluginsItem);
-    indexClasses(pluginsItem);
-    if (instances != nullptr) readInstances(Item(document, "instances", *instances));
-    readAllParameters(pluginsItem);
+    const CatalogueNode pluginsNode(document, "plugins", *plugins);
+    readClasses(pluginsNode);
+    indexClasses(pluginsNode);
+    if (instances != nullptr) readInstances(CatalogueNode(document, "instances", *instances));
+    readAllParameters(pluginsNode);
     if (names != nullptr)
         catalogue->classNames = readNames(
-            Item(document, "classNames", *names),
+            CatalogueNode(document, "classNames", *names),
             [this](const std::string& name) { return catalogue->classNamed(name) != nullptr; });
     if (errorCode != nullptr)
-        catalogue->rendererErrorCode = Item(document, "rendererErrorCode", *errorCode).integer32();
+        catalogue->rendererErrorCode =
+            CatalogueNode(document, "rendererErrorCode", *errorCode).integer32();
     return std::move(catalogue);
 }
 
-void CatalogueReader::readClasses(const Item& plugins) {
+void CatalogueReader::readClasses(const CatalogueNode& plugins) {
     catalogue->classes.reserve(plugins.object().size());
     plugins.forEachMember(
-        [this](const Item& member) { catalogue->classes.push_back(readClass(member)); });
+        [this](const CatalogueNode& member) { catalogue->classes.push_back(readClass(member)); });
 }
 
-void CatalogueReader::indexClasses(const Item& plugins) {
+void CatalogueReader::indexClasses(const CatalogueNode& plugins) {
     auto pluginClass = catalogue->classes.begin();
-    plugins.forEachMember([&](const Item& member) {
+    plugins.forEachMember([&](const CatalogueNode& member) {
         if (const PluginClass* other = catalogue->indexTypeText(*pluginClass))
             member.fail("its type text is also that of \"" + other->name + '"');
         if (pluginClass->typeId != 0)
@@ -77,18 +78,18 @@ void CatalogueReader::indexClasses(const Item& plugins) {
     }
 }
 
-void CatalogueReader::readAllParameters(const Item& plugins) {
+void CatalogueReader::readAllParameters(const CatalogueNode& plugins) {
     const InstanceNaming instanceOf = [this](std::string_view name) { return instanceNamed(name); };
     auto pluginClass = catalogue->classes.begin();
-    plugins.forEachMember([&](const Item& member) {
+    plugins.forEachMember([&](const CatalogueNode& member) {
         readParameters(member, *pluginClass++, *catalogue, instanceOf);
     });
 }
 
-void CatalogueReader::readInstances(const Item& instances) {
-    instances.forEachElement([this](const Item& item) {
-        if (!catalogue->instances.insert(readInstance(item, *catalogue)).second)
-            item.fail("another instance has this id");
+void CatalogueReader::readInstances(const CatalogueNode& instances) {
+    instances.forEachElement([this](const CatalogueNode& node) {
+        if (!catalogue->instances.insert(readInstance(node, *catalogue)).second)
+            node.fail("another instance has this id");
     });
 }
 
@@ -110,7 +111,7 @@ std::unique_ptr<Catalogue> readCatalogue(std::string text) {
     if (!document.isValid()) {
         throw CatalogueError("line " + std::to_string(document.errorLine()) + ": not JSON");
     }
-    return CatalogueReader(Item(document.root())).read();
+    return CatalogueReader(CatalogueNode(document.root())).read();
 }
 
 }  // namespace metagen::replay

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "replay_sdk/answer_source.h"
+#include "replay_sdk/catalogue_node.h"
 #include "replay_sdk/catalogue_reader.h"
-#include "replay_sdk/item.h"
 #include "replay_sdk/platform.h"
 
 namespace metagen::replay {

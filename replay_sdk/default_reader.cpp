@@ -8,91 +8,94 @@ namespace metagen::replay {
 
 namespace {
 
-std::int32_t readKind(const Item& item) {
-    if (!item.value.text().has_value()) return item.integer32();
-    const std::optional<std::int32_t> kind = kindOf(item.text());
-    if (!kind) item.fail("unknown kind \"" + item.text() + '"');
+std::int32_t readKind(const CatalogueNode& node) {
+    if (!node.value.text().has_value()) return node.integer32();
+    const std::optional<std::int32_t> kind = kindOf(node.text());
+    if (!kind) node.fail("unknown kind \"" + node.text() + '"');
     return *kind;
 }
 
-std::uint8_t readByte(const Item& item) {
-    if (item.value.number()) return static_cast<std::uint8_t>(item.integer(0, 255));
-    return item.boolean() ? 1 : 0;
+std::uint8_t readByte(const CatalogueNode& node) {
+    if (node.value.number()) return static_cast<std::uint8_t>(node.integer(0, 255));
+    return node.boolean() ? 1 : 0;
 }
 
-Text readText(const Item& item) {
-    if (item.isNull()) return std::nullopt;
-    return item.text();
+Text readText(const CatalogueNode& node) {
+    if (node.isNull()) return std::nullopt;
+    return node.text();
 }
 
-PluginReference readReference(const Item& item) {
+PluginReference readReference(const CatalogueNode& node) {
     static constexpr std::array<std::string_view, 3> names = {"id", "propertyIndex", "renderer"};
-    const auto [id, propertyIndex, renderer] = membersOf(item, names);
-    if (id == nullptr) item.fail("must have an \"id\"");
+    const auto [id, propertyIndex, renderer] = membersOf(node, names);
+    if (id == nullptr) node.fail("must have an \"id\"");
     PluginReference reference;
-    reference.pluginId = Item(item, names[0], *id).wideInteger();
+    reference.pluginId = CatalogueNode(node, names[0], *id).wideInteger();
     if (propertyIndex != nullptr)
-        reference.propertyIndex = Item(item, names[1], *propertyIndex).integer32();
-    if (renderer != nullptr) reference.hasRenderer = Item(item, names[2], *renderer).boolean();
+        reference.propertyIndex = CatalogueNode(node, names[1], *propertyIndex).integer32();
+    if (renderer != nullptr)
+        reference.hasRenderer = CatalogueNode(node, names[2], *renderer).boolean();
     return reference;
 }
 
-void appendFloats(std::vector<float>& floats, const Item& item, std::size_t count) {
-    if (item.array().size() != count) item.fail("must have " + std::to_string(count) + " numbers");
-    item.forEachElement([&](const Item& element) { floats.push_back(element.single()); });
+void appendFloats(std::vector<float>& floats, const CatalogueNode& node, std::size_t count) {
+    if (node.array().size() != count) node.fail("must have " + std::to_string(count) + " numbers");
+    node.forEachElement([&](const CatalogueNode& element) { floats.push_back(element.single()); });
 }
 
-std::vector<float> readFloats(const Item& item, std::int32_t tag) {
+std::vector<float> readFloats(const CatalogueNode& node, std::int32_t tag) {
     std::vector<float> floats;
     const std::size_t width = floatsPerValue(tag);
     if (!isListCode(tag)) {
-        appendFloats(floats, item, width);
+        appendFloats(floats, node, width);
         return floats;
     }
-    item.forEachElement([&](const Item& element) { appendFloats(floats, element, width); });
+    node.forEachElement(
+        [&](const CatalogueNode& element) { appendFloats(floats, element, width); });
     return floats;
 }
 
 template <typename Element>
-std::vector<Element> readElements(const Item& item, Element (*read)(const Item&)) {
+std::vector<Element> readElements(const CatalogueNode& node,
+                                  Element (*read)(const CatalogueNode&)) {
     std::vector<Element> elements;
-    elements.reserve(item.array().size());
-    item.forEachElement([&](const Item& element) { elements.push_back(read(element)); });
+    elements.reserve(node.array().size());
+    node.forEachElement([&](const CatalogueNode& element) { elements.push_back(read(element)); });
     return elements;
 }
 
-std::int32_t readInteger(const Item& item) { return item.integer32(); }
+std::int32_t readInteger(const CatalogueNode& node) { return node.integer32(); }
 
-float readNumber(const Item& item) { return item.single(); }
+float readNumber(const CatalogueNode& node) { return node.single(); }
 
-void readSingle(DefaultValue& value, ValueShape shape, const Item& item) {
+void readSingle(DefaultValue& value, ValueShape shape, const CatalogueNode& node) {
     switch (shape) {
-        case ValueShape::integer: value.payload = item.integer32(); return;
-        case ValueShape::single: value.payload = item.single(); return;
-        case ValueShape::real: value.payload = item.number(); return;
-        case ValueShape::boolean: value.payload = readByte(item); return;
-        case ValueShape::floats: value.payload = readFloats(item, value.kind); return;
-        case ValueShape::text: value.payload = item.text(); return;
-        case ValueShape::plugin: value.payload = readReference(item); return;
-        case ValueShape::values: value.payload = readElements(item, readTaggedDefault); return;
+        case ValueShape::integer: value.payload = node.integer32(); return;
+        case ValueShape::single: value.payload = node.single(); return;
+        case ValueShape::real: value.payload = node.number(); return;
+        case ValueShape::boolean: value.payload = readByte(node); return;
+        case ValueShape::floats: value.payload = readFloats(node, value.kind); return;
+        case ValueShape::text: value.payload = node.text(); return;
+        case ValueShape::plugin: value.payload = readReference(node); return;
+        case ValueShape::values: value.payload = readElements(node, readTaggedDefault); return;
         case ValueShape::none: break;
     }
-    item.fail("this kind has no value");
+    node.fail("this kind has no value");
 }
 
-void readList(DefaultValue& value, ValueShape elementShape, const Item& item) {
+void readList(DefaultValue& value, ValueShape elementShape, const CatalogueNode& node) {
     switch (elementShape) {
-        case ValueShape::integer: value.payload = readElements(item, readInteger); return;
-        case ValueShape::single: value.payload = readElements(item, readNumber); return;
-        case ValueShape::floats: value.payload = readFloats(item, value.kind); return;
-        case ValueShape::text: value.payload = readElements(item, readText); return;
-        case ValueShape::plugin: value.payload = readElements(item, readReference); return;
+        case ValueShape::integer: value.payload = readElements(node, readInteger); return;
+        case ValueShape::single: value.payload = readElements(node, readNumber); return;
+        case ValueShape::floats: value.payload = readFloats(node, value.kind); return;
+        case ValueShape::text: value.payload = readElements(node, readText); return;
+        case ValueShape::plugin: value.payload = readElements(node, readReference); return;
         case ValueShape::none:
         case ValueShape::real:
         case ValueShape::boolean:
         case ValueShape::values: break;  // these have no list of their own
     }
-    item.fail("this kind has no value");
+    node.fail("this kind has no value");
 }
 
 /// What a value of the kind is made of, or its elements; none for a kind without a value.
@@ -109,20 +112,20 @@ bool isBehindPointer(std::int32_t kind) {
 
 }  // namespace
 
-DefaultValue readTaggedDefault(const Item& item) {
+DefaultValue readTaggedDefault(const CatalogueNode& node) {
     static constexpr std::array<std::string_view, 2> names = {"kind", "value"};
-    const auto [tag, payload] = membersOf(item, names);
-    if (tag == nullptr) item.fail("must have a \"kind\"");
+    const auto [tag, payload] = membersOf(node, names);
+    if (tag == nullptr) node.fail("must have a \"kind\"");
     DefaultValue value;
-    value.kind = readKind(Item(item, names[0], *tag));
+    value.kind = readKind(CatalogueNode(node, names[0], *tag));
     if (payload == nullptr) {
-        if (shapeOf(value.kind) != ValueShape::none) item.fail("must have a \"value\"");
+        if (shapeOf(value.kind) != ValueShape::none) node.fail("must have a \"value\"");
         return value;
     }
-    const Item payloadItem(item, names[1], *payload);
-    if (payloadItem.isNull() && isBehindPointer(value.kind)) return value;
+    const CatalogueNode payloadNode(node, names[1], *payload);
+    if (payloadNode.isNull() && isBehindPointer(value.kind)) return value;
     const bool isTypedList = findElementType(value.kind) != nullptr;
-    (isTypedList ? readList : readSingle)(value, shapeOf(value.kind), payloadItem);
+    (isTypedList ? readList : readSingle)(value, shapeOf(value.kind), payloadNode);
     return value;
 }
 

@@ -9,21 +9,21 @@ namespace {
 constexpr std::array<std::string_view, 5> memberNames = {"id", "name", "exists", "class",
                                                          "propertyNames"};
 
-std::int64_t readId(const Item& item) {
+std::int64_t readId(const CatalogueNode& node) {
     constexpr std::int64_t bound = std::int64_t{1} << 47U;
-    const std::int64_t id = item.wideInteger();
-    if (id < -bound || id >= bound) item.fail("must fit into 48 bits with its sign");
+    const std::int64_t id = node.wideInteger();
+    if (id < -bound || id >= bound) node.fail("must fit into 48 bits with its sign");
     return id;
 }
 
-std::int64_t readClassName(const Item& item, const Catalogue& catalogue) {
-    const PluginClass* known = catalogue.classNamed(item.text());
-    if (known == nullptr) item.fail("unknown class \"" + item.text() + '"');
+std::int64_t readClassName(const CatalogueNode& node, const Catalogue& catalogue) {
+    const PluginClass* known = catalogue.classNamed(node.text());
+    if (known == nullptr) node.fail("unknown class \"" + node.text() + '"');
     return known->typeId;
 }
 
-void readPropertyNames(const Item& item, PluginInstance& instance) {
-    item.forEachMember([&](const Item& member) {
+void readPropertyNames(const CatalogueNode& node, PluginInstance& instance) {
+    node.forEachMember([&](const CatalogueNode& member) {
         std::int32_t index = 0;
         const char* last = member.name.data() + member.name.size();
         const auto [end, error] = std::from_chars(member.name.data(), last, index);
@@ -35,17 +35,19 @@ void readPropertyNames(const Item& item, PluginInstance& instance) {
 
 }  // namespace
 
-std::pair<std::int64_t, PluginInstance> readInstance(const Item& item, const Catalogue& catalogue) {
-    const auto [id, name, exists, className, propertyNames] = membersOf(item, memberNames);
-    if (id == nullptr) item.fail("must have an \"id\"");
+std::pair<std::int64_t, PluginInstance> readInstance(const CatalogueNode& node,
+                                                     const Catalogue& catalogue) {
+    const auto [id, name, exists, className, propertyNames] = membersOf(node, memberNames);
+    if (id == nullptr) node.fail("must have an \"id\"");
     PluginInstance instance;
-    if (name != nullptr && !name->isNull()) instance.name = Item(item, "name", *name).text();
-    if (exists != nullptr) instance.exists = Item(item, "exists", *exists).boolean();
+    if (name != nullptr && !name->isNull())
+        instance.name = CatalogueNode(node, "name", *name).text();
+    if (exists != nullptr) instance.exists = CatalogueNode(node, "exists", *exists).boolean();
     if (className != nullptr)
-        instance.typeId = readClassName(Item(item, "class", *className), catalogue);
+        instance.typeId = readClassName(CatalogueNode(node, "class", *className), catalogue);
     if (propertyNames != nullptr)
-        readPropertyNames(Item(item, "propertyNames", *propertyNames), instance);
-    return {readId(Item(item, "id", *id)), std::move(instance)};
+        readPropertyNames(CatalogueNode(node, "propertyNames", *propertyNames), instance);
+    return {readId(CatalogueNode(node, "id", *id)), std::move(instance)};
 }
 
 }  // namespace metagen::replay

@@ -26,32 +26,32 @@ constexpr std::array<std::string_view, memberCount> memberNames = {
     "elementsCount", "gpuSupport", "guide",        "default"};
 
 /// The parameter's object with its members looked up.
-class ParameterItem {
+class ParameterNode {
 public:
-    explicit ParameterItem(const Item& parameter)
-        : item(parameter), members(membersOf(parameter, memberNames)) {}
+    explicit ParameterNode(const CatalogueNode& parameter)
+        : node(parameter), members(membersOf(parameter, memberNames)) {}
 
     bool has(Member member) const { return members[member] != nullptr; }
-    Item at(Member member) const { return {item, memberNames[member], *members[member]}; }
+    CatalogueNode at(Member member) const { return {node, memberNames[member], *members[member]}; }
 
     void refuseBoth(Member one, Member other) const {
         if (has(one) && has(other))
             at(other).fail("\"" + std::string(memberNames[one]) + "\" says this already");
     }
 
-    const Item& item;
+    const CatalogueNode& node;
 
 private:
     std::array<const json::Value*, memberCount> members;
 };
 
-std::int32_t readTypeName(const Item& name) {
+std::int32_t readTypeName(const CatalogueNode& name) {
     const std::int32_t code = metagen::typeCode(name.text());
     if (code == type_code::unknown) name.fail("unknown type \"" + name.text() + '"');
     return code;
 }
 
-void readType(const ParameterItem& parameter, ParameterFacts& facts) {
+void readType(const ParameterNode& parameter, ParameterFacts& facts) {
     constexpr std::int32_t lastList = type_code::listOffset + type_code::transformTexture;
     parameter.refuseBoth(type, typeCode);
     parameter.refuseBoth(typeCode, listType);
@@ -61,7 +61,7 @@ void readType(const ParameterItem& parameter, ParameterFacts& facts) {
             facts.elementsCount = 0;
         return;
     }
-    if (!parameter.has(type)) parameter.item.fail("must have a \"type\" or a \"typeCode\"");
+    if (!parameter.has(type)) parameter.node.fail("must have a \"type\" or a \"typeCode\"");
     facts.typeCode = readTypeName(parameter.at(type));
     if (!parameter.has(listType)) return;
     if (parameter.at(type).text() != "list")
@@ -70,25 +70,26 @@ void readType(const ParameterItem& parameter, ParameterFacts& facts) {
     facts.elementsCount = 0;
 }
 
-std::uint32_t readElementsCount(const Item& count) {
+std::uint32_t readElementsCount(const CatalogueNode& count) {
     // -1 is how the SDK's users know the count of a parameter that is no list.
     return static_cast<std::uint32_t>(count.integer(-1, noList));
 }
 
-std::unique_ptr<Guide> readGuide(const Item& item) {
+std::unique_ptr<Guide> readGuide(const CatalogueNode& node) {
     static constexpr std::array<std::string_view, 2> names = {"float", "floats"};
-    const auto [single, floats] = membersOf(item, names);
+    const auto [single, floats] = membersOf(node, names);
     auto guide = std::make_unique<Guide>();
-    if (single != nullptr) guide->single = Item(item, names[0], *single).single();
+    if (single != nullptr) guide->single = CatalogueNode(node, names[0], *single).single();
     if (floats == nullptr || floats->isNull()) return guide;
     guide->floats.emplace();
-    Item(item, names[1], *floats).forEachElement([&](const Item& element) {
+    CatalogueNode(node, names[1], *floats).forEachElement([&](const CatalogueNode& element) {
         guide->floats->push_back(element.single());
     });
     return guide;
 }
 
-DefaultValue readDefaultText(const Item& text, bool isList, const InstanceNaming& instanceOf) {
+DefaultValue readDefaultText(const CatalogueNode& text, bool isList,
+                             const InstanceNaming& instanceOf) {
     // Every kind of single value is served as the text that it is written as.
     if (!isList) return {type_code::string, text.text()};
     std::optional<DefaultValue> list = listFromText(text.text(), instanceOf);
@@ -102,7 +103,7 @@ DefaultValue noDefault(bool isList) {
     return {type_code::string, std::string("\"\"")};
 }
 
-DefaultValue readDefault(const ParameterItem& parameter, bool isList,
+DefaultValue readDefault(const ParameterNode& parameter, bool isList,
                          const InstanceNaming& instanceOf) {
     parameter.refuseBoth(defaultValue, taggedDefault);
     if (parameter.has(taggedDefault)) return readTaggedDefault(parameter.at(taggedDefault));
@@ -112,8 +113,8 @@ DefaultValue readDefault(const ParameterItem& parameter, bool isList,
 
 }  // namespace
 
-Parameter readParameter(const Item& item, const InstanceNaming& instanceOf) {
-    const ParameterItem members(item);
+Parameter readParameter(const CatalogueNode& node, const InstanceNaming& instanceOf) {
+    const ParameterNode members(node);
     Parameter parameter;
     readType(members, parameter.facts);
     if (members.has(elementsCount))

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "replay_sdk/catalogue.h"
-#include "replay_sdk/item.h"
+#include "replay_sdk/catalogue_node.h"
 #include "replay_sdk/list_text.h"
 
 namespace metagen::replay {
 
 /// The parameter that the object tells, without its name. Throws CatalogueError.
-Parameter readParameter(const Item& item, const InstanceNaming& instanceOf);
+Parameter readParameter(const CatalogueNode& node, const InstanceNaming& instanceOf);
 
 }  // namespace metagen::replay

@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "replay_sdk/catalogue_node.h"
 #include "replay_sdk/catalogue_reader.h"
-#include "replay_sdk/item.h"
 
 namespace metagen::replay {
 

@@ -1,4 +1,4 @@
-#include "replay_sdk/item.h"
+#include "replay_sdk/catalogue_node.h"
 
 #include <charconv>
 #include <cmath>
@@ -22,7 +22,7 @@ bool readHexadecimal(std::string_view text, std::uint64_t& number) {
 
 }  // namespace
 
-std::string Item::place() const {
+std::string CatalogueNode::place() const {
     if (parent == nullptr) return "/";
     std::string path = parent->parent == nullptr ? std::string() : parent->place();
     path += '/';
@@ -30,31 +30,33 @@ std::string Item::place() const {
     return path.append(name.substr(0, name.find('\0')));  // the report's text would end there
 }
 
-void Item::fail(const std::string& reason) const { throw CatalogueError(place() + ": " + reason); }
+void CatalogueNode::fail(const std::string& reason) const {
+    throw CatalogueError(place() + ": " + reason);
+}
 
-json::Object Item::object() const {
+json::Object CatalogueNode::object() const {
     if (const auto members = value.object()) return *members;
     fail("must be an object");
 }
 
-json::Array Item::array() const {
+json::Array CatalogueNode::array() const {
     if (const auto elements = value.array()) return *elements;
     fail("must be an array");
 }
 
-std::string Item::text() const {
+std::string CatalogueNode::text() const {
     const auto text = value.text();
     if (!text) fail("must be a text");
     if (text->find('\0') != std::string::npos) fail("the interface can't give a text with a NUL");
     return std::string(*text);
 }
 
-bool Item::boolean() const {
+bool CatalogueNode::boolean() const {
     if (const auto boolean = value.boolean()) return *boolean;
     fail("must be true or false");
 }
 
-double Item::number() const {
+double CatalogueNode::number() const {
     if (const auto number = value.number()) return *number;
     const std::string_view word = value.text().value_or("");
     if (word == "inf") return std::numeric_limits<double>::infinity();
@@ -64,14 +66,14 @@ double Item::number() const {
     fail("must be a number");
 }
 
-float Item::single() const {
+float CatalogueNode::single() const {
     const double wide = number();
     const float narrow = toFloat(wide);
     if (std::isinf(narrow) && !std::isinf(wide)) fail("is beyond the range of a float");
     return narrow;
 }
 
-std::int64_t Item::integer(std::int64_t lowest, std::int64_t highest) const {
+std::int64_t CatalogueNode::integer(std::int64_t lowest, std::int64_t highest) const {
     const double exact = value.number().value_or(0.5);
     if (std::trunc(exact) == exact && exact >= static_cast<double>(lowest) &&
         exact <= static_cast<double>(highest))
@@ -79,12 +81,12 @@ std::int64_t Item::integer(std::int64_t lowest, std::int64_t highest) const {
     fail("must be an integer from " + std::to_string(lowest) + " to " + std::to_string(highest));
 }
 
-std::int32_t Item::integer32() const {
+std::int32_t CatalogueNode::integer32() const {
     using Limits = std::numeric_limits<std::int32_t>;
     return static_cast<std::int32_t>(integer(Limits::min(), Limits::max()));
 }
 
-std::int64_t Item::wideInteger() const {
+std::int64_t CatalogueNode::wideInteger() const {
     std::uint64_t bits = 0;
     if (readHexadecimal(value.text().value_or(""), bits)) return static_cast<std::int64_t>(bits);
     const double exact = value.number().value_or(firstInexactInteger);

@@ -1,4 +1,4 @@
-// A JSON value together with its place in the catalogue, so that whatever is wrong with it can be
+// A JSON value that knows its place in the catalogue, so that whatever is wrong with it can be
 // reported with the place. The places are put together only then.
 #pragma once
 
@@ -21,12 +21,13 @@ public:
 
 /// A value that lies inside another, or the document itself. It refers to its parent and to its
 /// key, which must outlive it.
-class Item {
+class CatalogueNode {
 public:
-    explicit Item(const json::Value& document) : value(document) {}
-    Item(const Item& owner, std::string_view memberName, const json::Value& member)
+    explicit CatalogueNode(const json::Value& document) : value(document) {}
+    CatalogueNode(const CatalogueNode& owner, std::string_view memberName,
+                  const json::Value& member)
         : value(member), parent(&owner), name(memberName) {}
-    Item(const Item& owner, std::size_t elementIndex, const json::Value& element)
+    CatalogueNode(const CatalogueNode& owner, std::size_t elementIndex, const json::Value& element)
         : value(element), parent(&owner), index(elementIndex) {}
 
     /// The names and indices on the way from the document, each after a "/"; "/" by itself is the
@@ -49,19 +50,19 @@ public:
     std::int64_t wideInteger()
         const;  ///< an integer below 2^53, or a text like "0xFFFF000000000005"
 
-    /// Calls visit(Item) for every member or element.
+    /// Calls visit(CatalogueNode) for every member or element.
     template <typename Visitor>
     void forEachMember(Visitor visit) const {
-        for (const auto& [key, member] : object()) visit(Item(*this, key, member));
+        for (const auto& [key, member] : object()) visit(CatalogueNode(*this, key, member));
     }
     template <typename Visitor>
     void forEachElement(Visitor visit) const {
         std::size_t position = 0;
-        for (const json::Value& element : array()) visit(Item(*this, position++, element));
+        for (const json::Value& element : array()) visit(CatalogueNode(*this, position++, element));
     }
 
     const json::Value& value;
-    const Item* parent = nullptr;
+    const CatalogueNode* parent = nullptr;
     std::string_view name;  ///< of a member
     std::size_t index = 0;  ///< of an element
 };
@@ -69,10 +70,10 @@ public:
 /// The members of an object by the position of their names in `names`, null for those that it
 /// lacks. A member of any other name fails, except "comment", which may stand everywhere.
 template <std::size_t count>
-std::array<const json::Value*, count> membersOf(const Item& item,
+std::array<const json::Value*, count> membersOf(const CatalogueNode& node,
                                                 const std::array<std::string_view, count>& names) {
     std::array<const json::Value*, count> members = {};
-    item.forEachMember([&](const Item& member) {
+    node.forEachMember([&](const CatalogueNode& member) {
         for (std::size_t position = 0; position < count; ++position) {
             if (names[position] == member.name) {
                 members[position] = &member.value;
