@@ -2,13 +2,13 @@
 #include <algorithm>
 
 #include "replay_sdk/entry_points.h"
-#include "replay_sdk/library.h"
+#include "replay_sdk/library_state.h"
 #include "replay_sdk/value_writer.h"
 
 using metagen::replay::EntryPoint;
 using metagen::replay::Guide;
-using metagen::replay::library;
 using metagen::replay::ParameterFacts;
+using metagen::replay::state;
 
 namespace {
 
@@ -17,18 +17,18 @@ constexpr std::int32_t servedGuideKind = 22;
 
 /// Counts the call, and gives the number of the parameter that the definition describes.
 std::optional<std::size_t> enter(EntryPoint entryPoint, const void* definition) {
-    library().ledger.countCall(entryPoint);
-    return library().findParameter(definition, entryPoint);
+    state().ledger.countCall(entryPoint);
+    return state().findParameter(definition, entryPoint);
 }
 
 /// The facts of no parameter when there is none.
 ParameterFacts factsOf(std::optional<std::size_t> parameter) {
-    return parameter ? library().parameterAnswers().facts(*parameter) : ParameterFacts{};
+    return parameter ? state().parameterAnswers().facts(*parameter) : ParameterFacts{};
 }
 
 const Guide* guideOf(std::optional<std::size_t> parameter, std::int32_t guideKind) {
     if (!parameter || guideKind != servedGuideKind) return nullptr;
-    return library().parameterAnswers().guide(*parameter);
+    return state().parameterAnswers().guide(*parameter);
 }
 
 }  // namespace
@@ -37,7 +37,7 @@ std::int32_t Qyra_PluginUtils_getPropertyGpuSupport(void* renderer, const char*,
                                                     const void* definition) {
     constexpr EntryPoint self = EntryPoint::Qyra_PluginUtils_getPropertyGpuSupport;
     const ParameterFacts facts = factsOf(enter(self, definition));
-    return library().answers(renderer, self) == nullptr ? 0 : facts.gpuSupport;
+    return state().answers(renderer, self) == nullptr ? 0 : facts.gpuSupport;
 }
 
 std::int32_t Qyra_PluginUtils_getPropertyType(const void* definition) {
@@ -52,9 +52,9 @@ std::uint32_t Qyra_PluginUtils_getPropertyElementsCount(const void* definition) 
 void Qyra_PluginUtils_getPropertyDefaultValue(const void* definition, QyraValue* value) {
     const auto parameter = enter(EntryPoint::Qyra_PluginUtils_getPropertyDefaultValue, definition);
     if (value == nullptr) return;
-    metagen::replay::ValueWriter writer(library().blocks, library().newestRenderer());
+    metagen::replay::ValueWriter writer(state().blocks, state().newestRenderer());
     if (parameter) {
-        writer.write(library().parameterAnswers().defaultValue(*parameter), *value);
+        writer.write(state().parameterAnswers().defaultValue(*parameter), *value);
     } else {
         writer.write({}, *value);
     }
@@ -79,7 +79,7 @@ std::uint32_t Qyra_UIGuides_getFloats(const void* definition, std::int32_t guide
     *values = nullptr;
     if (guide == nullptr || !guide->floats) return 0;
     const std::vector<float>& floats = *guide->floats;
-    *values = static_cast<float*>(library().blocks.allocate(floats.size() * sizeof(float), self));
+    *values = static_cast<float*>(state().blocks.allocate(floats.size() * sizeof(float), self));
     std::copy(floats.begin(), floats.end(), *values);
     return static_cast<std::uint32_t>(floats.size());
 }

@@ -3,12 +3,12 @@
 #include <string_view>
 
 #include "replay_sdk/entry_points.h"
-#include "replay_sdk/library.h"
+#include "replay_sdk/library_state.h"
 
 using metagen::replay::AnswerSource;
 using metagen::replay::EntryPoint;
-using metagen::replay::library;
 using metagen::replay::PluginInstance;
+using metagen::replay::state;
 using metagen::replay::Subject;
 
 namespace {
@@ -17,33 +17,33 @@ std::string_view textOf(const char* text) { return text == nullptr ? "" : text; 
 
 /// Counts the call, and gives the source of answers for a live renderer.
 const AnswerSource* enter(EntryPoint entryPoint, const void* renderer) {
-    library().ledger.countCall(entryPoint);
-    return library().answers(renderer, entryPoint);
+    state().ledger.countCall(entryPoint);
+    return state().answers(renderer, entryPoint);
 }
 
 }  // namespace
 
 void Qyra_incrementModuleReferenceCounter() {
-    library().ledger.countCall(EntryPoint::Qyra_incrementModuleReferenceCounter);
+    state().ledger.countCall(EntryPoint::Qyra_incrementModuleReferenceCounter);
 }
 
 void Qyra_enableFrameBuffer(bool enable) {
-    library().ledger.countCall(EntryPoint::Qyra_enableFrameBuffer);
-    library().ledger.noteFrameBuffer(enable);
+    state().ledger.countCall(EntryPoint::Qyra_enableFrameBuffer);
+    state().ledger.noteFrameBuffer(enable);
 }
 
 void* Qyra_QyraRenderer_create(const void*, std::int32_t* errorCode) {
-    library().ledger.countCall(EntryPoint::Qyra_QyraRenderer_create);
+    state().ledger.countCall(EntryPoint::Qyra_QyraRenderer_create);
     std::int32_t error = 0;
-    void* renderer = library().createRenderer(error);
+    void* renderer = state().createRenderer(error);
     if (errorCode != nullptr) *errorCode = error;
     return renderer;
 }
 
 void Qyra_QyraRenderer_setUserData(void* renderer, std::int32_t, void* userData) {
     constexpr EntryPoint self = EntryPoint::Qyra_QyraRenderer_setUserData;
-    library().ledger.countCall(self);
-    if (auto* found = library().findRenderer(renderer, self)) found->userData = userData;
+    state().ledger.countCall(self);
+    if (auto* found = state().findRenderer(renderer, self)) found->userData = userData;
 }
 
 std::uint32_t Qyra_QyraRenderer_getPluginClassTypeIDs(void* renderer, std::int64_t** typeIds) {
@@ -53,7 +53,7 @@ std::uint32_t Qyra_QyraRenderer_getPluginClassTypeIDs(void* renderer, std::int64
     *typeIds = nullptr;
     if (answers == nullptr) return 0;
     const std::vector<std::int64_t> ids = answers->typeIds();
-    void* block = library().blocks.allocate(ids.size() * sizeof(std::int64_t), self);
+    void* block = state().blocks.allocate(ids.size() * sizeof(std::int64_t), self);
     *typeIds = static_cast<std::int64_t*>(block);
     std::copy(ids.begin(), ids.end(), *typeIds);
     return static_cast<std::uint32_t>(ids.size());
@@ -61,14 +61,14 @@ std::uint32_t Qyra_QyraRenderer_getPluginClassTypeIDs(void* renderer, std::int64
 
 void Qyra_QyraRenderer_release(void* renderer) {
     constexpr EntryPoint self = EntryPoint::Qyra_QyraRenderer_release;
-    library().ledger.countCall(self);
-    library().release(Subject::renderer, renderer, self);
+    state().ledger.countCall(self);
+    state().release(Subject::renderer, renderer, self);
 }
 
 void* Qyra_QyraRenderer_getPluginClassNames(void* renderer) {
     const AnswerSource* answers =
         enter(EntryPoint::Qyra_QyraRenderer_getPluginClassNames, renderer);
-    return answers == nullptr ? nullptr : library().handOut(answers->classNames());
+    return answers == nullptr ? nullptr : state().handOut(answers->classNames());
 }
 
 std::int64_t Qyra_QyraRenderer_getPluginTypeId(void* renderer, const char* className) {
@@ -92,7 +92,7 @@ void* Qyra_QyraRenderer_getClassPropertyNames(void* renderer, const char* typeTe
     const AnswerSource* answers =
         enter(EntryPoint::Qyra_QyraRenderer_getClassPropertyNames, renderer);
     return answers == nullptr ? nullptr
-                              : library().handOut(answers->parameterNames(textOf(typeText)));
+                              : state().handOut(answers->parameterNames(textOf(typeText)));
 }
 
 const void* Qyra_QyraRenderer_getPropertyDefinitionFromClass(void* renderer, const char* typeText,

@@ -21,13 +21,13 @@ struct Renderer {
 /// What an address that a caller passes can name.
 enum class Subject : std::uint8_t { nothing, renderer, textVector, definition, block };
 
-class Library {
+class LibraryState {
 public:
     /// ledgerPath names the ledger's file; empty: no ledger is written.
-    explicit Library(std::string ledgerPath);
-    ~Library();  ///< writes the ledger
-    Library(const Library&) = delete;
-    Library& operator=(const Library&) = delete;
+    explicit LibraryState(std::string ledgerPath);
+    ~LibraryState();  ///< writes the ledger
+    LibraryState(const LibraryState&) = delete;
+    LibraryState& operator=(const LibraryState&) = delete;
 
     /// A new renderer, or null and the source's error code.
     void* createRenderer(std::int32_t& errorCode);
@@ -82,6 +82,6 @@ private:
 };
 
 /// The one of this process.
-Library& library();
+LibraryState& state();
 
 }  // namespace metagen::replay

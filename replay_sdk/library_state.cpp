@@ -1,4 +1,4 @@
-#include "replay_sdk/library.h"
+#include "replay_sdk/library_state.h"
 
 #include <utility>
 
@@ -21,48 +21,48 @@ void writeLedger(const std::string& path, std::string_view text) {
 
 // Made when the library is loaded, so that a ledger's file stands for a loaded library, and
 // destroyed when it is unloaded or the process ends.
-Library theLibrary(environmentVariable("QYRA_REPLAY_LEDGER"));
+LibraryState theState(environmentVariable("QYRA_REPLAY_LEDGER"));
 
 }  // namespace
 
-Library& library() { return theLibrary; }
+LibraryState& state() { return theState; }
 
-Library::Library(std::string ledgerPath)
+LibraryState::LibraryState(std::string ledgerPath)
     : blocks(!ledgerPath.empty()), path(std::move(ledgerPath)) {
     // Takes the place of an older run's ledger, should this process end without its last word.
     writeLedger(path, unfinishedLedger);
 }
 
-Library::~Library() {
+LibraryState::~LibraryState() {
     if (path.empty()) return;
     noteUnreleased();
     writeLedger(path, ledger.text());
 }
 
-void* Library::createRenderer(std::int32_t& errorCode) {
+void* LibraryState::createRenderer(std::int32_t& errorCode) {
     if (!source) source = openAnswerSource();
     const std::optional<std::int32_t> error = source->creationError();
     errorCode = error.value_or(0);
     return error ? nullptr : renderers.create(Renderer{});
 }
 
-const AnswerSource* Library::answers(const void* renderer, EntryPoint caller) {
+const AnswerSource* LibraryState::answers(const void* renderer, EntryPoint caller) {
     return findRenderer(renderer, caller) == nullptr ? nullptr : source.get();
 }
 
-Renderer* Library::findRenderer(const void* renderer, EntryPoint caller) {
+Renderer* LibraryState::findRenderer(const void* renderer, EntryPoint caller) {
     Renderer* found = renderers.find(renderer);
     if (found == nullptr) noteMisuse(renderer, caller);
     return found;
 }
 
-const TextVector* Library::findTextVector(const void* vector, EntryPoint caller) {
+const TextVector* LibraryState::findTextVector(const void* vector, EntryPoint caller) {
     const TextVector* found = textVectors.find(vector);
     if (found == nullptr) noteMisuse(vector, caller);
     return found;
 }
 
-std::optional<std::size_t> Library::findParameter(const void* definition, EntryPoint caller) {
+std::optional<std::size_t> LibraryState::findParameter(const void* definition, EntryPoint caller) {
     const std::optional<HandleParts> parts = readHandle(definition);
     if (parts && parts->kind == HandleKind::definition && renderers.liveCount() > 0 &&
         parts->index < source->parameterCount())
@@ -71,7 +71,7 @@ std::optional<std::size_t> Library::findParameter(const void* definition, EntryP
     return std::nullopt;
 }
 
-void Library::release(Subject expected, void* address, EntryPoint caller) {
+void LibraryState::release(Subject expected, void* address, EntryPoint caller) {
     // The usual case first: a block goes back for every parameter.
     if (expected == Subject::block && blocks.release(address)) return;
     const Description found = describe(address);
@@ -89,13 +89,13 @@ void Library::release(Subject expected, void* address, EntryPoint caller) {
     }
 }
 
-void* Library::handOut(std::optional<TextVector> vector) {
+void* LibraryState::handOut(std::optional<TextVector> vector) {
     return vector ? textVectors.create(std::move(*vector)) : nullptr;
 }
 
-void* Library::newestRenderer() const { return renderers.newestLive(); }
+void* LibraryState::newestRenderer() const { return renderers.newestLive(); }
 
-Library::Description Library::describe(const void* address) const {
+LibraryState::Description LibraryState::describe(const void* address) const {
     if (const std::optional<HandleParts> parts = readHandle(address))
         return describeHandle(*parts, address);
     if (const std::optional<EntryPoint> maker = blocks.makerOfLive(address))
@@ -105,7 +105,8 @@ Library::Description Library::describe(const void* address) const {
     return {};
 }
 
-Library::Description Library::describeHandle(const HandleParts& parts, const void* handle) const {
+LibraryState::Description LibraryState::describeHandle(const HandleParts& parts,
+                                                       const void* handle) const {
     if (renderers.wasCreated(parts))
         return {Subject::renderer, renderers.find(handle) != nullptr, "renderer"};
     if (textVectors.wasCreated(parts))
@@ -115,7 +116,7 @@ Library::Description Library::describeHandle(const HandleParts& parts, const voi
     return {};
 }
 
-void Library::noteMisuse(const void* address, EntryPoint caller) {
+void LibraryState::noteMisuse(const void* address, EntryPoint caller) {
     const std::string where = std::string(" in ") + nameOf(caller);
     const Description found = describe(address);
     if (address == nullptr) {
@@ -127,7 +128,7 @@ void Library::noteMisuse(const void* address, EntryPoint caller) {
     }
 }
 
-void Library::noteBadRelease(const Description& found, EntryPoint caller) {
+void LibraryState::noteBadRelease(const Description& found, EntryPoint caller) {
     const std::string by = std::string(" by ") + nameOf(caller);
     if (found.subject == Subject::nothing) {
         ledger.noteFinding("unknown handle released" + by);
@@ -137,7 +138,7 @@ void Library::noteBadRelease(const Description& found, EntryPoint caller) {
     }
 }
 
-void Library::noteUnreleased() {
+void LibraryState::noteUnreleased() {
     const auto note = [this](const std::string& words, std::size_t live) {
         if (live > 0) ledger.noteFinding("not released: " + words, live);
     };
