@@ -14,28 +14,9 @@ void expectFacts(const std::string& parameter, std::int32_t typeCode, std::uint3
 }
 
 TEST(ParameterType, HasTheCodeOfItsName) {
-    const std::pair<const char*, std::int32_t> types[] = {{"integer", 0},
-                                                          {"float", 1},
-                                                          {"double", 2},
-                                                          {"bool", 3},
-                                                          {"vector", 4},
-                                                          {"color", 5},
-                                                          {"acolor", 6},
-                                                          {"matrix", 7},
-                                                          {"transform", 8},
-                                                          {"string", 9},
-                                                          {"plugin", 10},
-                                                          {"texture", 11},
-                                                          {"color texture", 11},
-                                                          {"acolor texture", 11},
-                                                          {"list", 12},
-                                                          {"float texture", 13},
-                                                          {"integer texture", 14},
-                                                          {"vector texture", 15},
-                                                          {"matrix texture", 16},
-                                                          {"transform texture", 17}};
-    for (const auto& [name, code] : types)
-        expectFacts(std::string(R"({"type":")") + name + "\"}", code, noList);
+    expectFacts(R"({"type":"integer"})", 0, noList);
+    expectFacts(R"({"type":"list"})", 12, noList);
+    expectFacts(R"({"type":"transform texture"})", 17, noList);
 }
 
 TEST(ParameterType, OfAListIsTheElementsCodeAndAHundred) {
