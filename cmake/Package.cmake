@@ -29,7 +29,8 @@ set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME metagen)
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/metagen")
 set(replay_sdk_folder "${CMAKE_INSTALL_LIBDIR}/metagen/replay_sdk")
 
-install(TARGETS metagen metagen-lint EXPORT metagenTargets
+set(commands metagen metagen-lint)
+install(TARGETS ${commands} EXPORT metagenTargets
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(TARGETS check_tables EXPORT metagenTargets
     RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/metagen")
@@ -66,3 +67,10 @@ install(FILES
     "${PROJECT_BINARY_DIR}/package/metagenConfig.cmake"
     "${PROJECT_BINARY_DIR}/metagenConfigVersion.cmake"
     DESTINATION "${package_folder}")
+
+# All of it that has to be built, and no tests.
+add_custom_target(packed)
+add_dependencies(packed ${commands} check_tables replay_sdk)
+if(METAGEN_MANUAL)
+    add_dependencies(packed manual)
+endif()

@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -95,6 +96,19 @@ class InstalledHost(unittest.TestCase):
              "table_reader.h", "LICENSE"}, files)
         for path in self.package_folder().glob("*.cmake"):
             self.assertNotIn(str(ROOT), path.read_text(encoding="utf-8"), path)
+
+    @staticmethod
+    def ninja(*tool):
+        return subprocess.run(["ninja", "-C", BUILD, "-t", *tool], capture_output=True, text=True,
+                              check=True).stdout
+
+    def test_what_is_packed_is_built_for_it(self):
+        script = (pathlib.Path(BUILD) / "cmake_install.cmake").read_text(encoding="utf-8")
+        laid_down = set(re.findall(f'"{re.escape(str(BUILD))}/([^"]+)"', script))
+        made = {line.split(": ")[0] for line in self.ninja("targets", "all").splitlines()}
+        packed = set(re.findall('label="([^"]+)"', self.ninja("graph", "packed")))
+        self.assertLessEqual({BINARY.name, "check-tables" + BINARY.suffix}, laid_down & made)
+        self.assertEqual(set(), (laid_down & made) - packed)
 
     def test_the_build_follows_the_document_and_the_tool(self):
         self.build()
