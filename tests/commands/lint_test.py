@@ -200,6 +200,16 @@ class Mistakes(LintTest):
             run = self.lint("--format", name, document=document, base='{"plugins": {}}')
             self.assertIn("\ufffd", READERS[name](run.stdout.decode())[0][4])
 
+    def test_texts_as_they_are_not_saved(self):
+        told = "stripped.json:1:{}: error: not JSON: {} [syntax]\n"
+        document = '{"version": 1, "plugins": {}}'
+        for encoding in ("utf-16", "utf-16-le", "utf-16-be"):
+            with self.subTest(encoding):
+                message = told.format(1, "the document is in UTF-16; save it as UTF-8")
+                self.assert_lint(document.encode(encoding), message, status=1)
+        message = told.format(4, "a control character within a text is written \\u0000")
+        self.assert_lint(b'{"v\0": 1, "plugins": {}}', message, status=1)
+
 
 class Editors(LintTest):
     def test_the_matchers_of_editors_read_every_line(self):
