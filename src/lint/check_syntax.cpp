@@ -184,4 +184,15 @@ void checkSyntax(const json::Document& document, Findings& findings) {
     findings.add(rule::syntax, error.place(), std::move(message));
 }
 
+void checkTrailingText(const json::Document& document, Findings& findings) {
+    const std::string_view text = document.text();
+    const std::size_t end = ReadingPlace(text).end;
+    const std::size_t next = text.find_first_not_of(blanks, end);
+    if (next == std::string_view::npos) return;
+    findings
+        .add(rule::trailingText, static_cast<std::uint32_t>(next),
+             "the document ends before this, so nothing reads it")
+        .notes.push_back({static_cast<std::uint32_t>(end - 1), "its last bracket"});
+}
+
 }  // namespace metagen::lint

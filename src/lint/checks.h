@@ -9,6 +9,9 @@ namespace metagen::lint {
 /// The one finding of a document that is not JSON.
 void checkSyntax(const json::Document& document, Findings& findings);
 
+/// Text behind a document that is an object.
+void checkTrailingText(const json::Document& document, Findings& findings);
+
 /// Keys that stand twice.
 void checkRepeatedKeys(const json::Document& document, Findings& findings);
 

@@ -77,6 +77,7 @@ std::vector<Finding> lint(const json::Document& stripped, const json::Document& 
                          "; it must be an object, so the commands end there");
         return findings.take();
     }
+    checkTrailingText(stripped, findings);
     const Subject subject(stripped, base);
     const json::Object before =
         previous == nullptr ? json::Object() : json::asObject(previous->root());

@@ -72,6 +72,8 @@ inline constexpr Rule removedParameter = {
     "removed-parameter", Severity::error,
     "The new SDK lacks a parameter that the previous one had."};
 
+inline constexpr Rule trailingText = {"trailing-text", Severity::warning,
+                                      "Text behind the document is ignored."};
 inline constexpr Rule duplicateKey = {"duplicate-key", Severity::warning,
                                       "An object has a key twice; only the last one counts."};
 inline constexpr Rule foldedKey = {"folded-key", Severity::warning,
@@ -110,14 +112,14 @@ inline constexpr Rule defaultChanged = {
 
 /// In the order in which users are shown them.
 inline constexpr std::array all = {
-    &syntax,           &wrongKind,       &objectOverValue,  &missingVersion, &missingPlugins,
-    &unreadableName,   &nameClash,       &unknownParameter, &missingType,    &unknownType,
-    &unsupportedType,  &defaultValue,    &sdkDefault,       &handlerDefault, &handlerUserData,
-    &handlerMismatch,  &missingHandler,  &multiplierMode,   &strayUserData,  &scalingUnit,
-    &scalingCondition, &removedPlugin,   &removedParameter, &duplicateKey,   &foldedKey,
-    &changedName,      &unknownKey,      &ignoredKind,      &unknownPlugin,  &unknownHandler,
-    &partialNumber,    &refusedDefault,  &brokenLiteral,    &duplicateOfSdk, &nullOfUnknown,
-    &typeChanged,      &categoryChanged, &defaultChanged};
+    &syntax,           &wrongKind,      &objectOverValue,  &missingVersion, &missingPlugins,
+    &unreadableName,   &nameClash,      &unknownParameter, &missingType,    &unknownType,
+    &unsupportedType,  &defaultValue,   &sdkDefault,       &handlerDefault, &handlerUserData,
+    &handlerMismatch,  &missingHandler, &multiplierMode,   &strayUserData,  &scalingUnit,
+    &scalingCondition, &removedPlugin,  &removedParameter, &trailingText,   &duplicateKey,
+    &foldedKey,        &changedName,    &unknownKey,       &ignoredKind,    &unknownPlugin,
+    &unknownHandler,   &partialNumber,  &refusedDefault,   &brokenLiteral,  &duplicateOfSdk,
+    &nullOfUnknown,    &typeChanged,    &categoryChanged,  &defaultChanged};
 
 }  // namespace rule
 
