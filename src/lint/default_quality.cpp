@@ -1,6 +1,7 @@
 #include "lint/default_quality.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -22,6 +23,32 @@ bool isWhole(std::string_view rest) { return std::ranges::all_of(rest, isBlank);
 
 bool isWholeField(std::string_view rest) {
     return rest.find_first_not_of(ends) == std::string_view::npos;
+}
+
+struct Form {
+    std::string_view type;
+    std::string_view text;
+    bool isElement;  ///< of lists that keep values
+};
+
+constexpr std::array forms = {
+    Form{"vector", "Vector(0, 0, 1)", true}, Form{"color", "Color(1, 0.5, 0)", true},
+    Form{"acolor", "AColor(1, 0.5, 0, 1)", true},
+    Form{"matrix", "Matrix(Vector(1, 0, 0), Vector(0, 1, 0), Vector(0, 0, 1))", false},
+    Form{"transform",
+         "Transform(Matrix(Vector(1, 0, 0), Vector(0, 1, 0), Vector(0, 0, 1)), Vector(0, 0, 0))",
+         false}};
+
+/// `, such as "Vector(0, 0, 1)"`: how a value of the parameter's type may be written.
+std::string suchAs(const MetaParameter& parameter) {
+    const auto form = std::ranges::find_if(forms, [&parameter](const Form& candidate) {
+        return parameter.typeName.starts_with(candidate.type);
+    });
+    const bool isList = isListCode(parameter.code);
+    if (isList && form != forms.end() && !form->isElement) return "";
+    std::string text(form == forms.end() ? "..." : form->text);
+    if (isList) text = "List(" + text + ")";
+    return ", such as \"" + text + '"';
 }
 
 class DefaultCheck {
@@ -144,8 +171,8 @@ private:
     void reportRefused() {
         std::string type = isListCode(parameter.code) ? "list of " : "";
         type += parameter.typeName;
-        add(rule::refusedDefault,
-            inQuotes(text) + " is no " + type + " that genm can read, so the host gets no default");
+        add(rule::refusedDefault, inQuotes(text) + " is no " + type + " that genm can read" +
+                                      suchAs(parameter) + ", so the host gets no default");
     }
 
     void add(const Rule& rule, std::string message) {

@@ -5,6 +5,7 @@
 
 #include "lint/nearest_name.h"
 #include "lint/wording.h"
+#include "support/numbers.h"
 
 namespace metagen::lint {
 
@@ -46,6 +47,18 @@ constexpr std::array scalingKeys = {
 constexpr std::array conditionKeys = {KnownKey{"op", "a number", isNumber},
                                       KnownKey{"ref", "a text", isText},
                                       KnownKey{"value", "a number", isNumber}};
+
+/// For a text where its content belongs, and the other way round.
+std::string_view wordOnQuotes(const json::Value& value, std::string_view kinds) {
+    if (kinds == "a text" && (value.number() || value.boolean())) return ", in double quotes";
+    const auto text = value.text();
+    if (!text) return "";
+    const bool holdsNumber = !text->empty() && restAfterDouble(*text).empty();
+    const bool holdsBoolean = *text == "true" || *text == "false";
+    const bool fits =
+        (holdsNumber && kinds == "a number") || (holdsBoolean && kinds == "true or false");
+    return fits ? ", without quotes" : "";
+}
 
 /// The key of which the name is the beginning; empty when there is none.
 std::string_view longerKey(const Level& level, std::string_view name) {
@@ -94,7 +107,7 @@ std::string_view kindInWords(const json::Value& value) {
 
 std::string wrongKindText(std::string_view key, const json::Value& value, std::string_view kinds) {
     return (inQuotes(key) + " is ").append(kindInWords(value)) + "; it must be " +
-           std::string(kinds);
+           std::string(kinds).append(wordOnQuotes(value, kinds));
 }
 
 }  // namespace metagen::lint

@@ -38,7 +38,7 @@ const KnownKey* findKey(const Level& level, std::string_view name);
 void addUnknownKeys(const json::Document& document, json::Object object, const Level& level,
                     Findings& findings);
 
-/// `"unit" is a text, a number belongs there`, say.
+/// `"unit" is a text; it must be a number`, say, and whether quotes are all that is wrong.
 std::string wrongKindText(std::string_view key, const json::Value& value, std::string_view kinds);
 
 /// What kind of value that is, in words.
