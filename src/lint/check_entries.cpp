@@ -2,6 +2,7 @@
 #include <initializer_list>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "combine/checks.h"
 #include "genm/default_record.h"
@@ -21,14 +22,13 @@ namespace {
 constexpr std::string_view params = "params";
 constexpr std::string_view userData = "userData";
 
-/// The nearest type of the vocabulary.
-std::string_view nearestType(std::string_view name) {
-    NearestName finder;
-    finder.begin(name);
+/// The names of the vocabulary. That of doubles is float's.
+std::vector<std::string_view> knownTypes() {
+    std::vector<std::string_view> names;
     for (std::int32_t code = type_code::integer; code <= type_code::transformTexture; ++code) {
-        if (hasTypeName(code)) finder.consider(typeName(code));
+        if (hasTypeName(code) && typeCode(typeName(code)) == code) names.push_back(typeName(code));
     }
-    return finder.nearest();
+    return names;
 }
 
 /// "params" or "userData" of a plugin, in all the documents.
@@ -241,7 +241,7 @@ private:
         const std::string_view type = json::asText(isList ? *listType : json::at(members, "type"));
         findings.add(
             rule::unknownType, typePlace(of, name, entry),
-            inQuotes(type) + " is no type" + didYouMean(nearestType(type)) + ", so genm ends");
+            inQuotes(type) + " is no type" + didYouMean(type, knownTypes()) + ", so genm ends");
     }
 
     /// Of what tells the type: a list's is that of its elements.

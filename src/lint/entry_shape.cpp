@@ -1,8 +1,9 @@
 #include "lint/entry_shape.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
 
-#include "lint/nearest_name.h"
 #include "lint/shape.h"
 #include "lint/wording.h"
 #include "model/handlers.h"
@@ -11,13 +12,8 @@ namespace metagen::lint {
 
 namespace {
 
-std::string_view nearestHandler(std::string_view word) {
-    NearestName finder;
-    finder.begin(word);
-    for (const HandlerKind* kind : handler_kind::all) finder.consider(kind->word);
-    finder.consider(handler_kind::fileBrowserWord);
-    return finder.nearest();
-}
+constexpr std::array handlerWords = {handler_kind::color.word, handler_kind::floatNumber.word,
+                                     handler_kind::duplicate.word, handler_kind::fileBrowserWord};
 
 class EntryShapeCheck {
 public:
@@ -48,10 +44,10 @@ private:
 
     void checkHandler(const json::Value& value) {
         const std::string_view word = *value.text();
-        if (findHandlerKind(word) != nullptr || word == handler_kind::fileBrowserWord) return;
+        if (std::ranges::find(handlerWords, word) != handlerWords.end()) return;
         findings.add(rule::unknownHandler, value.offset(),
                      inQuotes(word) + " is no handler that metagen knows" +
-                         didYouMean(nearestHandler(word)) + ", so genh leaves the parameter out");
+                         didYouMean(word, handlerWords) + ", so genh leaves the parameter out");
     }
 
     void checkInfo(json::Object info) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 
+#include "lint/nearest_name.h"
 #include "support/numbers.h"
 
 namespace metagen::lint {
@@ -101,6 +102,17 @@ std::string ownerName(std::string_view plugin, std::string_view parameter) {
 
 std::string didYouMean(std::string_view name) {
     return name.empty() ? "" : " (did you mean " + inQuotes(name) + "?)";
+}
+
+std::string didYouMean(std::string_view word, std::span<const std::string_view> known) {
+    NearestName finder;
+    finder.begin(word);
+    std::string all;
+    for (const std::string_view candidate : known) {
+        finder.consider(candidate);
+        all.append(all.empty() ? "" : ", ").append(candidate);
+    }
+    return finder.nearest().empty() ? " (known are " + all + ")" : didYouMean(finder.nearest());
 }
 
 }  // namespace metagen::lint

@@ -2,6 +2,7 @@
 // valid UTF-8 whatever bytes they have.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -24,5 +25,8 @@ std::string ownerName(std::string_view plugin, std::string_view parameter);
 
 /// ` (did you mean "name"?)`, or nothing when there is no name.
 std::string didYouMean(std::string_view name);
+
+/// The same for a word that is none of a few known ones; when none of them is near, all of them.
+std::string didYouMean(std::string_view word, std::span<const std::string_view> known);
 
 }  // namespace metagen::lint
