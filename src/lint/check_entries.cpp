@@ -180,15 +180,19 @@ private:
     }
 
     void reportMissingType(const Section& of, std::string_view name) {
+        // Of what was removed, alone or with its plugin, checkUpgrade tells.
+        if (of.key == params && json::find(of.previous, name) != nullptr) return;
         if (of.key == params && of.isOfSdk) {
-            if (json::find(of.previous, name) != nullptr) return;  // removed: see checkUpgrade
             add(rule::unknownParameter, of, name,
                 "the SDK's " + inQuotes(of.plugin) + " has no parameter " + inQuotes(name) +
                     didYouMean(finder.among(of.live, name)) +
                     "; one of the host's own needs a \"type\", without which genm ends");
         } else {
             add(rule::missingType, of, name,
-                ownerName(of.plugin, name) + " has no \"type\", without which genm ends");
+                ownerName(of.plugin, name) + " has no \"type\"" +
+                    (of.key == userData ? ", without which genm ends"
+                                        : ", and the SDK no " + inQuotes(of.plugin) +
+                                              " to take it from: genm ends"));
         }
     }
 

@@ -91,7 +91,8 @@ private:
 
     /// What the document says that a change of type matters to.
     static const json::Member* firstOf(json::Object stripped) {
-        for (const std::string_view key : {"defaultValue", "type", "listType", "handler"}) {
+        for (const std::string_view key :
+             {"defaultValue", "type", "listType", "handler", "scaling"}) {
             if (const json::Member* member = findMember(stripped, key)) return member;
         }
         return nullptr;

@@ -102,7 +102,7 @@ inline constexpr Rule nullOfUnknown = {
     "null takes out what the SDK doesn't have; --fix takes it out."};
 inline constexpr Rule typeChanged = {
     "type-changed", Severity::warning,
-    "The SDK's type changed below a default value, type or handler of the document."};
+    "The SDK's type changed below what the document says of the parameter."};
 inline constexpr Rule categoryChanged = {"category-changed", Severity::warning,
                                          "The SDK's category changed below one of the document."};
 

@@ -27,13 +27,15 @@ BASE = """{"plugins": {"Glass": {"type": "material", "params": {
 "Light": {"type": "light", "params": {}}}}"""
 PREVIOUS = """{"plugins": {"Glass": {"type": "BRDF", "params": {
 "depth": {"type": "integer", "defaultValue": "2"},
-"fog": {"type": "bool", "defaultValue": "0"}, "level": {"type": "integer"}}},
-"Lamp": {"type": "light", "params": {}}}}"""
+"fog": {"type": "bool", "defaultValue": "0"}, "level": {"type": "integer"},
+"tint": {"type": "vector"}}},
+"Lamp": {"type": "light", "params": {"power": {"type": "float"}}}}}"""
 UPGRADED = """{"version": 1, "plugins": {
 "Glass": {"type": "own",
 "params": {"depth": {"defaultValue": "3"},
-"fog": {"type": "bool"}, "level": {"defaultValue": "0"}}},
-"Lamp": {"type": "light"}
+"fog": {"type": "bool"}, "level": {"defaultValue": "0"},
+"tint": {"scaling": {"power": 2}}}},
+"Lamp": {"type": "light", "params": {"power": {"defaultValue": "2"}}}
 }}"""
 UPGRADE = """\
 stripped.json:2:19: warning: the SDK's category of Glass changed from "BRDF" to "material" below \
@@ -45,7 +47,9 @@ stripped.json:3:38: note: the SDK's default of Glass depth changed from "2" to "
 stripped.json:4:1: error: the new SDK's Glass no longer has the parameter "fog" [removed-parameter]
 stripped.json:4:52: note: the SDK's default of Glass level changed from none to "#BadValue" below \
 this one [default-changed]
-stripped.json:5:1: error: the new SDK no longer has the plugin "Lamp" [removed-plugin]
+stripped.json:5:10: warning: the SDK's "type" of Glass tint changed from "vector" to "color" \
+below this [type-changed]
+stripped.json:6:1: error: the new SDK no longer has the plugin "Lamp" [removed-plugin]
 """
 
 
