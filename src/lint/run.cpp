@@ -1,11 +1,14 @@
 #include "lint/run.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include "lint/command_line.h"
@@ -24,12 +27,23 @@ namespace metagen::lint {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 /// The whole file. Line ends stay as they are, so that places and a fix are those of the file.
 std::string readFile(const std::string& path) {
-    File file = openForReading(path.c_str(), "rb");
+    const auto fail = [&path](const std::string& reason) {
+        throw std::runtime_error(path + ": can't be read: " + reason);
+    };
+    std::error_code error;
+    const fs::file_type type = fs::status(path, error).type();
+    if (type == fs::file_type::directory) fail("it is a folder");
+    // One such as /dev/zero has no end.
+    if (type == fs::file_type::character || type == fs::file_type::block) fail("it is a device");
+    errno = 0;
+    const File file = openForReading(path.c_str(), "rb");
     std::optional<std::string> text;
     if (file) text = readAll(file.get());
-    if (!text) throw std::runtime_error(path + ": can't be read");
+    if (!text) fail(std::generic_category().message(errno));
     return std::move(*text);
 }
 

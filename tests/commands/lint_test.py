@@ -283,7 +283,10 @@ class CommandLine(LintTest):
         self.assertEqual((0, b"", b""), (run.status, run.stdout, run.stderr))
 
     def test_files_that_are_wrong(self):
-        self.assert_failure(r"metagen-lint: stripped\.json: can't be read")
+        self.assert_failure(r"metagen-lint: stripped\.json: can't be read: No such file or dir")
+        (self.folder / "stripped.json").mkdir()
+        self.assert_failure(r"metagen-lint: stripped\.json: can't be read: it is a folder\r?\n")
+        (self.folder / "stripped.json").rmdir()
         self.write("stripped.json", self.CLEAN)
         self.assert_failure("metagen-lint: nowhere.json: can't be read", "--previous",
                             "nowhere.json")
@@ -318,6 +321,11 @@ class CommandLine(LintTest):
             capture_output=True, check=False)
         self.assertEqual((FAILED, b""), (run.returncode, run.stdout))
         self.assertIn(b"has multiple incompatible categories", run.stderr)
+
+    @unittest.skipIf(harness.WINDOWS, "there is no such device")
+    def test_a_file_without_an_end(self):
+        (self.folder / "stripped.json").symlink_to("/dev/zero")
+        self.assert_failure(r"metagen-lint: stripped\.json: can't be read: it is a device\n")
 
     @unittest.skipIf(harness.WINDOWS, "there is no such device")
     def test_an_output_that_is_full(self):
