@@ -75,6 +75,17 @@ void describe(CLI::App& app, Reading& reading) {
     app.add_flag("--rules", reading.wantsRules, "List the rules and exit");
 }
 
+/// What the library has no use for, in words of our own: it names the value of an unknown option
+/// before the option.
+std::string wrongExtra(const std::vector<std::string>& extras) {
+    const auto isOption = [](const std::string& extra) {
+        return extra.starts_with('-') && extra != "--";
+    };
+    const auto option = std::ranges::find_if(extras, isOption);
+    if (option != extras.end()) return "there is no option " + *option;
+    return "one document at a time, and " + extras.back() + " is another";
+}
+
 int fail(const std::string& message) {
     std::cerr << "metagen-lint: " << message << "\nmetagen-lint --help tells more.\n";
     return failureStatus;
@@ -90,6 +101,9 @@ CommandLine readCommandLine(int argumentCount, const char* const* arguments) {
     describe(app, reading);
     try {
         app.parse(argumentCount, arguments);
+    } catch (const CLI::ExtrasError&) {
+        line.status = fail(wrongExtra(app.remaining()));
+        return line;
     } catch (const CLI::ParseError& error) {
         const bool isRequest = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success);
         line.status = isRequest ? app.exit(error) : fail(error.what());

@@ -266,15 +266,20 @@ class CommandLine(LintTest):
 
     def test_a_command_line_that_is_wrong(self):
         for arguments, message in (((), "no stripped document is named"),
-                                   (("--formt", "json", "a.json"), "--formt"),
+                                   (("--formt", "json", "a.json"),
+                                    "there is no option --formt"),
+                                   (("-x",), "there is no option -x"),
                                    (("--format", "xml", "a.json"), "xml"),
-                                   (("a.json", "b.json"), "b.json"), (("--base",), "--base")):
+                                   (("a.json", "b.json"),
+                                    "one document at a time, and b.json is another"),
+                                   (("--base",), "--base")):
             with self.subTest(arguments):
                 run = self.run_metagen(*arguments, binary=harness.LINTER)
                 self.assertEqual((FAILED, b""), (run.status, run.stdout))
                 self.assertIn(message, run.stderr.decode())
 
-    def test_a_path_may_be_absolute(self):
+    def test_a_path_may_be_absolute_or_behind_two_hyphens(self):
+        self.assert_lint(self.CLEAN, "", "--")
         path = (self.folder / "stripped.json").as_posix()  # on Windows without its drive: "/..."
         self.write("stripped.json", '{"version": 1, "plugins": {}}')
         base = self.write("base.json", '{"plugins": {}}')
