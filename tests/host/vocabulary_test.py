@@ -28,6 +28,8 @@ _MAIN = re.compile(r"^<!-- file: renderer/main.cpp -->\n```cpp\n(.*?)^```$",
                    re.MULTILINE | re.DOTALL)
 _BODY = re.compile(r"^<!-- body of: (\w+) -->\n```cpp\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 _OWN = re.compile(r"^<!-- own vocabulary -->\n```cpp\n(.*?)^```$", re.MULTILINE | re.DOTALL)
+_GOING_THROUGH = re.compile(r"^<!-- going through -->\n```cpp\n(.*?)^```$",
+                            re.MULTILINE | re.DOTALL)
 
 # What varies within a kind of statement, in the order in which it is replaced.
 _VARIABLE = [
@@ -165,6 +167,22 @@ class VocabularyTest(unittest.TestCase):
             (self.folder / "meta.inl").write_text(meta, encoding="utf-8")
             (self.folder / "handlers.inl").write_text(handlers, encoding="utf-8")
             self.assert_source_compiles(main)
+
+    def test_the_source_that_goes_through_the_objects_compiles(self):
+        [source] = _GOING_THROUGH.findall(PAGE)
+        self.assert_source_compiles(source)
+
+    def test_the_page_has_every_member_of_the_objects(self):
+        rows = dict(re.findall(r"^\| `([\w:]+)` \| (`.*) \|$", PAGE, re.MULTILINE))
+        for header in ("handlers.h", "meta.h"):
+            text = (ROOT / "include" / "metagen" / "host" / header).read_text(encoding="utf-8")
+            for owner, body in re.findall(r"^(?:class|struct) (\w+) \{\n(.*?)^\};", text,
+                                          re.MULTILINE | re.DOTALL):
+                # What is indented further belongs to a struct within, or to a function.
+                for name in re.findall(r"^    [\w:][\w:<>, ]+ (\w+)(?: = [\w:{}]+)?;", body,
+                                       re.MULTILINE):
+                    with self.subTest(f"{owner}::{name}"):
+                        self.assertIn(f"`{name}`", rows[owner])
 
     def test_all_documents_compile_with_types_of_a_hosts_own(self):
         [own] = _OWN.findall(PAGE)
