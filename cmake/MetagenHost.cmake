@@ -40,6 +40,9 @@ function(metagen_generate_tables)
         message(FATAL_ERROR "metagen_generate_tables takes TARGET <target>, "
             "DOCUMENT <combined.json> and, optionally, SDK_ROOT <folder>")
     endif()
+    if(NOT TARGET "${arg_TARGET}")
+        message(FATAL_ERROR "metagen_generate_tables: there is no target ${arg_TARGET} above this")
+    endif()
     if("SDK_ROOT" IN_LIST ARGV AND "${arg_SDK_ROOT}" STREQUAL "")
         message(FATAL_ERROR "metagen_generate_tables(TARGET ${arg_TARGET}): SDK_ROOT is empty. "
             "It takes the SDK's root folder, the one with bin below. Where no SDK is installed, "

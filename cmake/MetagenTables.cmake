@@ -38,9 +38,15 @@ function(run what)
         message(NOTICE "${what}: ${printed}")
     endif()
     if(NOT status EQUAL 0)
-        message(FATAL_ERROR "${what} ended with ${status} on\n  ${DOCUMENT}\n"
-            "Where in the stripped document the mistake is that this comes of, metagen-lint tells:\n"
-            "  metagen-lint --base <base.json> <stripped.json>\n${hint}")
+        if(printed MATCHES "Cannot load Qyra SDK Library")
+            string(CONCAT hint "The SDK's root folder is SDK_ROOT of metagen_generate_tables, or else the one "
+                "that QYRA_SDK names when the build runs.\n")
+        else()
+            string(CONCAT hint "metagen-lint finds the mistake in the stripped document that it was made of:\n"
+                "  metagen-lint --base <base.json> <stripped.json>\n${hint}")
+        endif()
+        message(FATAL_ERROR "${what} failed (${status}) on the combined document\n"
+            "  ${DOCUMENT}\n${hint}")
     endif()
 endfunction()
 

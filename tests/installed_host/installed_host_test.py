@@ -152,23 +152,41 @@ class InstalledHost(unittest.TestCase):
         self.assertEqual(["light AmbientLight: color color"] * 2,
                          self.run_host(folder / "first_record", folder=folder))
 
-    def test_an_empty_sdk_root_is_refused(self):
-        for argument in ('SDK_ROOT ""', "SDK_ROOT", "SDK_ROOT ${QYRA_ROOT}"):
-            with self.subTest(argument), tempfile.TemporaryDirectory() as name:
-                project = pathlib.Path(name)
-                (project / "main.cpp").touch()
-                (project / "CMakeLists.txt").write_text(f"""\
+    def configure_host(self, call, fails=False):
+        """Configures a host whose target is called "host"; what that prints, and its build folder."""
+        project = pathlib.Path(tempfile.mkdtemp(dir=self.folder))
+        (project / "main.cpp").write_text("int main() {}\n", encoding="utf-8")
+        (project / "CMakeLists.txt").write_text(f"""\
 cmake_minimum_required(VERSION 3.25)
 project(host LANGUAGES CXX)
 find_package(metagen REQUIRED)
 add_executable(host main.cpp)
-metagen_generate_tables(TARGET host DOCUMENT combined.json {argument})
-""")
-                printed = self.run_cmake("-S", project, "-B", project / "build",
-                                         f"-Dmetagen_DIR={self.package_folder()}", fails=True)
+metagen_generate_tables({call})
+""", encoding="utf-8")
+        return self.run_cmake("-S", project, "-B", project / "build",
+                              f"-Dmetagen_DIR={self.package_folder()}",
+                              fails=fails), project / "build"
+
+    def test_an_empty_sdk_root_is_refused(self):
+        for argument in ('SDK_ROOT ""', "SDK_ROOT", "SDK_ROOT ${QYRA_ROOT}"):
+            with self.subTest(argument):
+                printed, _ = self.configure_host(f"TARGET host DOCUMENT combined.json {argument}",
+                                                 fails=True)
                 self.assertIn("metagen_generate_tables(TARGET host): SDK_ROOT is empty.", printed)
                 self.assertIn("METAGEN_REPLAY_SDK_ROOT", printed)
                 self.assertIn("QYRA_SDK", printed)
+
+    def test_a_target_that_does_not_exist_is_refused(self):
+        printed, _ = self.configure_host("TARGET hots DOCUMENT combined.json", fails=True)
+        self.assertIn("there is no target hots above this", " ".join(printed.split()))
+
+    def test_an_sdk_that_is_not_there_fails_the_build(self):
+        _, folder = self.configure_host(
+            f'TARGET host DOCUMENT "{self.document.as_posix()}" SDK_ROOT /nowhere')
+        printed = self.run_cmake("--build", folder, fails=True)
+        self.assertIn("metagen genm: Cannot load Qyra SDK Library file.", printed)
+        self.assertIn("SDK_ROOT of metagen_generate_tables", " ".join(printed.split()))
+        self.assertNotIn("metagen-lint", printed)
 
     def replace_document(self, text):
         """For the rest of the test."""
