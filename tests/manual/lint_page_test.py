@@ -51,6 +51,18 @@ class LintPageTest(unittest.TestCase):
                     self.assertEqual((findings, ""), (run.stdout, run.stderr))
                     self.assertIn(f"[{name}]\n", run.stdout)
 
+    def test_the_bundled_catalogue_lacks_a_default_and_that_is_mended_as_it_says(self):
+        text = SECTIONS["sdk-default"]
+        [finding] = re.findall(r"```text\n(.*?)```", text, re.DOTALL)
+        [mended] = re.findall(r"```json\n(.*?)```", text, re.DOTALL)
+        base = ROOT / "tests" / "golden" / "dump" / "bundled" / "base.json"
+        with tempfile.TemporaryDirectory(prefix="metagen-test-") as folder:
+            for plugins, expected in (("", finding), (mended, "")):
+                pathlib.Path(folder, "stripped.json").write_text(
+                    f'{{"version": 1, "plugins": {{{plugins}}}}}', encoding="utf-8")
+                run = self.run_lint("--base", base, "stripped.json", folder=folder)
+                self.assertEqual((expected, ""), (run.stdout, run.stderr))
+
     def test_each_option_is_told(self):
         options = set(re.findall(r"--[a-z]+", self.run_lint("--help").stdout))
         self.assertEqual(options, set(re.findall(r"\\(--[a-z]+)\*\*", PAGE)))
