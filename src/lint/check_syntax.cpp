@@ -128,7 +128,13 @@ private:
             return "texts and keys stand in straight double quotes, not in " +
                    std::string(character);
         }
-        return "JSON has no " + inQuotes(character) + " here";
+        return wanted() + " belongs here, not " + inQuotes(character);
+    }
+
+    [[nodiscard]] std::string wanted() const {
+        if (!where.followsValue()) return where.isKeyNext ? "a key in double quotes" : "a value";
+        if (where.before == '"' && where.isKeyNext) return "a colon";
+        return where.isInObject() ? "a comma or }" : "a comma or ]";
     }
 
     /// What belongs between what was read and what comes.
