@@ -155,8 +155,8 @@ Document::Document(std::string text) : ownText(std::move(text)) {
         rootValue = builder.result();
     } else {
         lineOfError = in.line();
-        offsetOfError = in.offset();
     }
+    bytesRead = in.offset();
 }
 
 std::uint32_t Document::offsetOf(std::string_view key) const {

@@ -39,8 +39,8 @@ public:
     /// The line on which a document that is not valid shows it, counting from 1.
     [[nodiscard]] int errorLine() const { return lineOfError; }
 
-    /// How many bytes were read until then.
-    [[nodiscard]] std::uint32_t errorOffset() const { return offsetOfError; }
+    /// How many bytes were read: until then, or to the end of the value.
+    [[nodiscard]] std::uint32_t sizeRead() const { return bytesRead; }
 
     /// Null when the document is not valid.
     [[nodiscard]] const Value& root() const { return rootValue; }
@@ -58,7 +58,7 @@ private:
     Arena arena;  ///< of the nodes, and of the texts that have escapes
     Value rootValue;
     std::vector<RepeatedKey> repeated;
-    std::uint32_t offsetOfError = 0;
+    std::uint32_t bytesRead = 0;
     int lineOfError = 0;
 };
 

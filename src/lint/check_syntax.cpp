@@ -41,8 +41,8 @@ class SyntaxError {
 public:
     explicit SyntaxError(const json::Document& document)
         : text(document.text()),
-          offset(document.errorOffset()),
-          where(text.substr(0, document.errorOffset())) {}
+          offset(document.sizeRead()),
+          where(text.substr(0, document.sizeRead())) {}
 
     std::string message() {
         if (text.size() > json::maximumSize) return "the document is too long";
@@ -192,13 +192,13 @@ void checkSyntax(const json::Document& document, Findings& findings) {
 
 void checkTrailingText(const json::Document& document, Findings& findings) {
     const std::string_view text = document.text();
-    const std::size_t end = ReadingPlace(text).end;
+    const std::uint32_t end = document.sizeRead();
     const std::size_t next = text.find_first_not_of(blanks, end);
     if (next == std::string_view::npos) return;
     findings
         .add(rule::trailingText, static_cast<std::uint32_t>(next),
              "the document ends before this, so nothing reads it")
-        .notes.push_back({static_cast<std::uint32_t>(end - 1), "its last bracket"});
+        .notes.push_back({end - 1, "its last bracket"});
 }
 
 }  // namespace metagen::lint

@@ -12,7 +12,7 @@ constexpr std::string_view letters =
 bool isWordByte(char byte) { return letters.find(byte) != std::string_view::npos; }
 
 ReadingPlace::ReadingPlace(std::string_view read) {
-    for (std::size_t i = 0; i < read.size() && end == none; ++i) {
+    for (std::size_t i = 0; i < read.size(); ++i) {
         const char byte = read[i];
         if (stringBegin != none) {
             if (byte == '\\') ++i;
@@ -25,7 +25,6 @@ ReadingPlace::ReadingPlace(std::string_view read) {
         } else if ((byte == '}' || byte == ']') && !open.empty()) {
             open.pop_back();
             isKeyNext = false;
-            if (open.empty()) end = i + 1;
         } else if (byte == ',') {
             isKeyNext = isInObject();
         } else if (byte == ':') {

@@ -23,7 +23,6 @@ struct ReadingPlace {
     std::string open;                ///< the brackets that are open, the outermost first
     std::size_t stringBegin = none;  ///< of the text that is open
     bool isKeyNext = false;          ///< a key belongs here, or here ends one
-    std::size_t end = none;          ///< behind the document's last bracket
     std::size_t last = none;         ///< where the last byte stands that is no blank
     char before = '\0';              ///< that byte
 };
