@@ -23,7 +23,8 @@ def left_out(document):
             for name, *_ in handlers}
     for plugin, members in document["plugins"].items():
         for name, parameter in members.get("params", {}).items():
-            if isinstance(parameter, dict) and parameter.get("handler") in genh.HANDLERS:
+            handler = parameter.get("handler") if isinstance(parameter, dict) else None
+            if isinstance(handler, str) and handler in genh.HANDLERS:
                 if (genh.plain_bytes(plugin), genh.plain_bytes(name)) not in told:
                     yield f"{plugin}::{name}"
 
