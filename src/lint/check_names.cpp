@@ -14,10 +14,7 @@ namespace {
 enum class Written : std::uint8_t { asItIs, asAnother, unreadable };
 
 Written written(std::string_view key) {
-    const auto needsEscape = [](char byte) {
-        return static_cast<unsigned char>(byte) < 0x20U || byte == '"' || byte == '\\';
-    };
-    if (std::ranges::none_of(key, needsEscape)) return Written::asItIs;
+    if (!needsEscape(key)) return Written::asItIs;
     const json::Member member = {key, json::Value()};
     const json::Document document(combinedText(json::Object(&member, 1)));
     return document.isValid() ? Written::asAnother : Written::unreadable;
@@ -66,6 +63,7 @@ private:
     }
 
     void checkFolding(json::Object object, json::Object mergedObject) {
+        if (!hasFoldedKeys(mergedObject)) return;
         std::vector<const json::Member*> members;
         members.reserve(mergedObject.size());
         for (const json::Member& member : mergedObject) members.push_back(&member);

@@ -33,10 +33,20 @@ void readEntries(json::Object entries, std::uint32_t flag, MetaPlugin& plugin) {
     }
 }
 
+bool hasScaling(const json::Member& plugin) {
+    const auto isScaled = [](const json::Member& entry) {
+        return json::find(membersOf(entry.value), "scaling") != nullptr;
+    };
+    return std::ranges::any_of(section(membersOf(plugin.value), params), isScaled) ||
+           std::ranges::any_of(section(membersOf(plugin.value), userData), isScaled);
+}
+
+/// Of the plugins that have a scaling.
 MetaModel readableModel(json::Object plugins) {
     MetaModel model;
-    model.reserve(plugins.size());
-    for (const auto& [name, value] : plugins) {
+    for (const json::Member& member : plugins) {
+        if (!hasScaling(member)) continue;
+        const auto& [name, value] = member;
         MetaPlugin& plugin = model.emplace_back();
         plugin.name = name;
         readEntries(section(membersOf(value), params), 0, plugin);

@@ -3,9 +3,12 @@
 #include <algorithm>
 #include <functional>
 #include <stdexcept>
+#include <utility>
 
 #include "combine/combine_report.h"
 #include "combine/merge.h"
+#include "metadata/key_order.h"
+#include "support/escapes.h"
 
 namespace metagen::lint {
 
@@ -40,7 +43,38 @@ private:
     std::vector<const json::Member*>& pruned;
 };
 
+bool isNotLess(const json::Member& left, const json::Member& right) {
+    return !CombinedKeyLess()(left.key, right.key);
+}
+
+/// Whether the generators read the object that is written as that object: combine writes all names
+/// without escapes, and of those that fold to one only the first.
+bool isReadAsItIs(json::Object object) {
+    return !hasFoldedKeys(object) && std::ranges::all_of(object, [](const json::Member& member) {
+        return !needsEscape(member.key) && isReadAsItIs(membersOf(member.value));
+    });
+}
+
 }  // namespace
+
+bool needsEscape(std::string_view name) {
+    const char* const end = name.data() + name.size();
+    return findSpecial<'"', '\\'>(name.data(), end) != end;
+}
+
+bool hasFoldedKeys(json::Object object) {
+    // Most objects are in the combined order without "type", which equals no other key.
+    const json::Member* last = nullptr;
+    const bool isInOrder = std::ranges::all_of(object, [&last](const json::Member& member) {
+        if (member.key == "type") return true;
+        const json::Member* const before = std::exchange(last, &member);
+        return before == nullptr || !isNotLess(*before, member);
+    });
+    if (isInOrder) return false;
+    std::vector<json::Member> members(object.begin(), object.end());
+    std::ranges::sort(members, CombinedKeyLess(), &json::Member::key);
+    return std::ranges::adjacent_find(members, isNotLess) != members.end();
+}
 
 const json::Member* findMember(json::Object object, std::string_view key) {
     const auto member = std::ranges::lower_bound(object, key, {}, &json::Member::key);
@@ -57,10 +91,16 @@ Subject::Subject(const json::Document& strippedDocument, const json::Document& b
       base(json::asObject(baseDocument.root())) {
     mergeDocuments();
     combined = merged;
-    written.emplace(
-        metagen::combinedText(merged, document.text().size() + baseDocument.text().size()));
+    // With its escapes a text has six times its bytes at most.
+    const std::size_t size = document.text().size() + baseDocument.text().size();
+    if (size < json::maximumSize / 6 && isReadAsItIs(merged)) return;
+    written.emplace(metagen::combinedText(merged, size));
     isReadable = written->isValid();
     if (isReadable) combined = json::asObject(written->root());
+}
+
+std::string Subject::combinedText() const {
+    return metagen::combinedText(merged, document.text().size());
 }
 
 // Only the merge itself decides whether there is anything to do without.

@@ -4,6 +4,7 @@
 
 #include <initializer_list>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -27,6 +28,12 @@ inline json::Object membersOf(const json::Value* value) {
 /// The value of a member that is an object, as membersOf has it.
 json::Object section(json::Object object, std::string_view key);
 
+/// Whether JSON has escapes for bytes of the name; combine writes it without.
+bool needsEscape(std::string_view name);
+
+/// Whether some of the keys are one in the combined order.
+bool hasFoldedKeys(json::Object object);
+
 class Subject {
 public:
     /// Borrows both documents, whose values are objects. The base document has the shape of one.
@@ -49,10 +56,10 @@ public:
 
     /// The combined document as the generators read it; the merge when it doesn't parse.
     json::Object combined;
-    bool isReadable = false;
+    bool isReadable = true;
 
     /// The combined document as combine writes it.
-    [[nodiscard]] const std::string& combinedText() const { return written->text(); }
+    [[nodiscard]] std::string combinedText() const;
 
     /// Where the key of the member stands that the path leads to, or else the nearest parameter or
     /// plugin above it that the document names, or else line 1.
@@ -73,7 +80,7 @@ private:
 
     Arena arena;
     std::vector<const json::Member*> pruned;  ///< by address
-    std::optional<json::Document> written;
+    std::optional<json::Document> written;    ///< where names make another document of it
 };
 
 }  // namespace metagen::lint
