@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "lint/nearest_name.h"
+#include "support/escapes.h"
 #include "support/numbers.h"
 
 namespace metagen::lint {
@@ -29,21 +30,6 @@ std::size_t sequenceLength(std::string_view text) {
     return code < smallest[length] || code > 0x10FFFFU || isSurrogate ? 0 : length;
 }
 
-void appendControl(std::string& out, char byte) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    constexpr std::string_view bytes = "\b\t\n\f\r";
-    constexpr std::string_view letters = "btnfr";
-    out += '\\';
-    if (const auto index = bytes.find(byte); index != std::string_view::npos) {
-        out += letters[index];
-        return;
-    }
-    const auto code = static_cast<unsigned char>(byte);
-    out += "u00";
-    out += digits[code >> 4U];
-    out += digits[code & 0xFU];
-}
-
 }  // namespace
 
 std::string printable(std::string_view text) {
@@ -54,8 +40,10 @@ std::string printable(std::string_view text) {
         const auto code = static_cast<unsigned char>(text.front());
         if (length == 0) {
             out += "\xEF\xBF\xBD";
-        } else if (code < 0x20U || code == 0x7FU) {
-            appendControl(out, text.front());
+        } else if (code == 0x7FU) {
+            out += "\\u007f";
+        } else if (code < 0x20U) {
+            appendEscaped(out, text.substr(0, 1));
         } else {
             out += text.substr(0, length);
         }
