@@ -19,9 +19,6 @@ namespace metagen::lint {
 
 namespace {
 
-constexpr std::string_view params = "params";
-constexpr std::string_view userData = "userData";
-
 /// The names of the vocabulary. That of doubles is float's.
 std::vector<std::string_view> knownTypes() {
     std::vector<std::string_view> names;

@@ -11,9 +11,6 @@ namespace metagen::lint {
 
 namespace {
 
-constexpr std::string_view params = "params";
-constexpr std::string_view userData = "userData";
-
 /// The first user data of the parameter that is named with a suffix of the texture handlers.
 std::string firstData(json::Object data, std::string_view parameter) {
     std::vector<std::string_view> suffixes = {handler_kind::color.value,

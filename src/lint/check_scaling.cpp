@@ -13,9 +13,6 @@ namespace metagen::lint {
 
 namespace {
 
-constexpr std::string_view params = "params";
-constexpr std::string_view userData = "userData";
-
 std::string decimal(std::int32_t number) {
     std::string text;
     appendInteger(text, number);

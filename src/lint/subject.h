@@ -14,6 +14,10 @@
 
 namespace metagen::lint {
 
+/// The sections of a plugin.
+inline constexpr std::string_view params = "params";
+inline constexpr std::string_view userData = "userData";
+
 /// The member that an object lacks is null.
 const json::Member* findMember(json::Object object, std::string_view key);
 
