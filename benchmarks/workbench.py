@@ -71,6 +71,11 @@ class Workbench:
         made_of.write_text(origin)
         return False
 
+    def _megabytes(self):
+        """What the hungriest program and its files take at this scale, where the machine has it."""
+        machine = os.sysconf("SC_PAGE_SIZE") * os.sysconf("SC_PHYS_PAGES")
+        return int(min(20 * self.scale, machine / 4 / 1e6))
+
     def run(self, command, *, environment=None, statuses=(0,)):
         """Runs a program; any other status is a failure. Gives its standard output."""
         finished = subprocess.run(
@@ -85,7 +90,8 @@ class Workbench:
         """Runs a program, its outputs out of the way before, and gives its cost."""
         for name in outputs:
             self.path(name).unlink(missing_ok=True)
-        line = self.run([self.program("measure"), self.path("stdout.txt"), *command])
+        line = self.run([self.program("measure"), self._megabytes(), self.path("stdout.txt"),
+                         *command])
         status, wall, user, system, peak = map(int, line.split())
         if status not in statuses:
             raise Failure(f"status {status}: {' '.join(map(str, command))}")
