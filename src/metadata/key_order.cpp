@@ -21,8 +21,6 @@ constexpr std::array<std::int8_t, 256> foldedBytes = [] {
 
 std::int8_t folded(char byte) { return foldedBytes[static_cast<unsigned char>(byte)]; }
 
-bool foldedLess(char left, char right) { return folded(left) < folded(right); }
-
 constexpr std::string_view first = "type";
 
 }  // namespace
@@ -30,7 +28,13 @@ constexpr std::string_view first = "type";
 bool CombinedKeyLess::operator()(std::string_view left, std::string_view right) const {
     if (right == first) return false;
     if (left == first) return true;
-    return std::ranges::lexicographical_compare(left, right, foldedLess);
+    const std::size_t shared = std::min(left.size(), right.size());
+    for (std::size_t i = 0; i < shared; ++i) {
+        if (left[i] == right[i]) continue;  // most bytes: names of one class begin alike
+        const int order = folded(left[i]) - folded(right[i]);
+        if (order != 0) return order < 0;
+    }
+    return left.size() < right.size();
 }
 
 }  // namespace metagen
