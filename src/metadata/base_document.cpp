@@ -1,25 +1,29 @@
 #include "metadata/base_document.h"
 
 #include <span>
-#include <string_view>
 #include <utility>
 
+#include "metadata/key_order.h"
 #include "sdk/parameter_type.h"
 #include "support/text_file.h"
 
 namespace metagen {
 
 BaseDocument::BaseDocument(const Renderer& renderer) {
-    for (std::string& name : renderer.pluginClassNames()) {
-        const PluginObject object = readPluginObject(renderer, name);
-        const std::size_t count = plugins.size();
-        const auto place = plugins.try_emplace(plugins.end(), std::move(name));  // mostly in order
-        if (plugins.size() == count) continue;
+    std::vector<std::string> names = renderer.pluginClassNames();
+    const std::vector<std::size_t> places = placesInOrder(names);
+    plugins.resize(names.size());
+    PluginReader reader(renderer);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const std::string_view object = reader.read(names[i]);
+        Plugin& plugin = plugins[places[i]];
+        if (!plugin.object.empty()) continue;
         // Side by side: the system's allocator searches long for one block for each.
-        const std::span<const char> kept = texts.keep(std::span<const char>(object.text));
-        place->second = {kept.data(), kept.size()};
-        if (object.namelessCode) namelessCode = object.namelessCode;
+        const std::span<const char> kept = texts.keep(std::span<const char>(object));
+        plugin = {std::move(names[i]), {kept.data(), kept.size()}};
+        if (reader.namelessCode()) namelessCode = reader.namelessCode();
     }
+    std::erase_if(plugins, [](const Plugin& plugin) { return plugin.object.empty(); });
 }
 
 template <typename Append>

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <numeric>
 
 namespace metagen {
 
@@ -35,6 +36,22 @@ bool CombinedKeyLess::operator()(std::string_view left, std::string_view right) 
         if (order != 0) return order < 0;
     }
     return left.size() < right.size();
+}
+
+std::vector<std::size_t> placesInOrder(const std::vector<std::string>& names) {
+    std::vector<std::size_t> order(names.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    const auto less = [&names](std::size_t left, std::size_t right) {
+        return CombinedKeyLess()(names[left], names[right]);
+    };
+    std::ranges::sort(order, less);
+    std::vector<std::size_t> places(names.size());
+    std::size_t place = 0;
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        if (less(order[i - 1], order[i])) ++place;
+        places[order[i]] = place;
+    }
+    return places;
 }
 
 }  // namespace metagen

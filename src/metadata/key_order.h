@@ -1,7 +1,10 @@
 // The order in which the base and the combined document list plugins, parameters and keys.
 #pragma once
 
+#include <cstddef>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace metagen {
 
@@ -14,5 +17,8 @@ struct CombinedKeyLess {
 
     bool operator()(std::string_view left, std::string_view right) const;
 };
+
+/// For each name its place, from 0, among the different ones in the combined order.
+std::vector<std::size_t> placesInOrder(const std::vector<std::string>& names);
 
 }  // namespace metagen

@@ -50,9 +50,11 @@ FakeParameter list(std::int32_t code, const std::vector<Element>& elements) {
 std::string objectOf(FakeSdk& sdk, FakeClass fakeClass) {
     const std::string name = fakeClass.name;
     sdk.classes = {std::move(fakeClass)};
-    const PluginObject object = readPluginObject(Renderer(), name);
-    EXPECT_EQ(object.namelessCode, std::nullopt);
-    return object.text;
+    const Renderer renderer;
+    PluginReader reader(renderer);
+    const std::string object(reader.read(name));
+    EXPECT_EQ(reader.namelessCode(), std::nullopt);
+    return object;
 }
 
 std::string objectOf(FakeClass fakeClass) {
@@ -115,7 +117,10 @@ TEST(PluginObject, TheTypeCodesAroundThemAreRecorded) {
     for (const std::int32_t code : {-1, 0, 999, 1006, 9999, 10001}) {
         sdk.classes[0].parameters.push_back(integer(std::to_string(code).c_str(), code, code));
     }
-    EXPECT_TRUE(readPluginObject(Renderer(), "A").namelessCode.has_value());
+    const Renderer renderer;
+    PluginReader reader(renderer);
+    static_cast<void>(reader.read("A"));
+    EXPECT_TRUE(reader.namelessCode().has_value());
     Texts recorded;
     std::ranges::copy_if(sdk.calls, std::back_inserter(recorded),
                          [](const std::string& call) { return call.starts_with("default "); });
