@@ -41,7 +41,15 @@ void BaseDocument::forEachPiece(const Append& append) const {
 }
 
 void BaseDocument::write(std::FILE* file) const {
-    forEachPiece([file](std::string_view piece) { writeAll(file, piece); });
+    constexpr std::size_t writtenAtOnce = std::size_t{1} << 16U;  // the C library's own are 4 KB
+    std::string block;
+    forEachPiece([file, &block](std::string_view piece) {
+        block += piece;
+        if (block.size() < writtenAtOnce) return;
+        writeAll(file, block);
+        block.clear();
+    });
+    writeAll(file, block);
 }
 
 std::string BaseDocument::text() const {
