@@ -79,8 +79,8 @@ void appendDecimal(std::string& out, const Decimal& decimal, bool isNegative) {
     out.append(text, end);
 }
 
-/// Whole numbers up to here have at most six digits, so their general form has no exponent.
-constexpr float largestPlainWhole = 999999.0F;
+/// Whole numbers of at most six digits have no exponent in the general form.
+bool isPlainWhole(double number) { return std::trunc(number) == number && std::fabs(number) < 1e6; }
 
 }  // namespace
 
@@ -91,13 +91,12 @@ void appendInteger(std::string& out, std::int64_t number) {
 }
 
 void appendGeneral(std::string& out, double number) {
-    if (const std::optional<Decimal> decimal = roundShort(std::fabs(number))) {
-        appendDecimal(out, *decimal, number < 0);
-        return;
+    if (isPlainWhole(number)) {
+        if (std::signbit(number)) out += '-';  // of zero, too
+        return appendInteger(out, static_cast<std::int64_t>(std::fabs(number)));
     }
-    if (number == 0) {
-        out += std::signbit(number) ? "-0" : "0";
-        return;
+    if (const std::optional<Decimal> decimal = roundShort(std::fabs(number))) {
+        return appendDecimal(out, *decimal, number < 0);
     }
     char digits[32];
     const std::to_chars_result result = std::to_chars(
@@ -107,8 +106,7 @@ void appendGeneral(std::string& out, double number) {
 
 void appendFloatLiteral(std::string& out, float number) {
     appendGeneral(out, static_cast<double>(number));
-    const bool plainWhole = std::trunc(number) == number && std::fabs(number) <= largestPlainWhole;
-    out += plainWhole ? ".f" : "f";
+    out += isPlainWhole(static_cast<double>(number)) ? ".f" : "f";
 }
 
 void appendIntegerLiteral(std::string& out, std::int32_t number) {
