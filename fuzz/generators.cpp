@@ -22,7 +22,8 @@ void generateHandlers(json::Object plugins) {
 }
 
 void generateMeta(json::Object plugins) {
-    const MetaModel model = readMeta(plugins);
+    Arena arena;
+    const MetaModel model = readMeta(plugins, arena);
     ValueArrays arrays;
     std::string source;
     std::string table;

@@ -93,7 +93,8 @@ void genm(const char* inputPath, const char* outputBase) {
     // About as much: text that grows in steps costs memory, and a copy, for each.
     reserveText(source.content, document.text().size());
     reserveText(table.content, document.text().size());
-    generate(readMeta(plugins), version, std::move(source), std::move(table));
+    Arena arena;
+    generate(readMeta(plugins, arena), version, std::move(source), std::move(table));
 }
 
 }  // namespace metagen

@@ -122,7 +122,7 @@ ScalingTable collectScalingTable(const MetaModel& model) {
         for (const MetaParameter& parameter : plugin.parameters) {
             if (parameter.scaling == nullptr) continue;
             const std::string_view name = plugin.name.substr(0, plugin.name.find('\0'));
-            table[name].emplace(parameter.name, parameter.scaling.get());
+            table[name].emplace(parameter.name, parameter.scaling);
         }
     }
     return table;

@@ -137,8 +137,10 @@ private:
 
     bool isRefusedByGenm(const Section& of, std::string_view name, const json::Value& entry) {
         const std::uint32_t flag = of.key == userData ? param_flag::fromUserData : 0;
+        Arena arena;
         try {
-            checkParameter(of, name, entry, readMetaParameter(name, json::asObject(entry), flag));
+            checkParameter(of, name, entry,
+                           readMetaParameter(name, json::asObject(entry), flag, arena));
         } catch (const std::out_of_range&) {
             reportMissingType(of, name);
         } catch (const std::runtime_error&) {

@@ -20,10 +20,11 @@ std::string decimal(std::int32_t number) {
 }
 
 /// The parameters and user data of a section that can be read.
-void readEntries(json::Object entries, std::uint32_t flag, MetaPlugin& plugin) {
+void readEntries(json::Object entries, std::uint32_t flag, std::vector<MetaParameter>& parameters,
+                 Arena& arena) {
     for (const auto& [name, entry] : entries) {
         try {
-            plugin.parameters.push_back(readMetaParameter(name, json::asObject(entry), flag));
+            parameters.push_back(readMetaParameter(name, json::asObject(entry), flag, arena));
         } catch (const std::exception&) {
             continue;  // a matter of checkEntries
         }
@@ -39,16 +40,18 @@ bool hasScaling(const json::Member& plugin) {
 }
 
 /// Of the plugins that have a scaling.
-MetaModel readableModel(json::Object plugins) {
+MetaModel readableModel(json::Object plugins, Arena& arena) {
     MetaModel model;
+    std::vector<MetaParameter> parameters;
     for (const json::Member& member : plugins) {
         if (!hasScaling(member)) continue;
         const auto& [name, value] = member;
-        MetaPlugin& plugin = model.emplace_back();
-        plugin.name = name;
-        readEntries(section(membersOf(value), params), 0, plugin);
-        readEntries(section(membersOf(value), userData), param_flag::fromUserData, plugin);
-        std::ranges::stable_sort(plugin.parameters, {}, &MetaParameter::name);
+        parameters.clear();
+        readEntries(section(membersOf(value), params), 0, parameters, arena);
+        readEntries(section(membersOf(value), userData), param_flag::fromUserData, parameters,
+                    arena);
+        std::ranges::stable_sort(parameters, {}, &MetaParameter::name);
+        model.push_back({name, {}, arena.keep(std::span<const MetaParameter>(parameters))});
     }
     return model;
 }
@@ -58,7 +61,7 @@ public:
     ScalingCheck(const Subject& linted, Findings& collected)
         : subject(linted),
           plugins(section(linted.combined, "plugins")),
-          model(readableModel(plugins)),
+          model(readableModel(plugins, arena)),
           findings(collected) {}
 
     void run() {
@@ -163,6 +166,7 @@ private:
 
     const Subject& subject;
     json::Object plugins;
+    Arena arena;
     MetaModel model;
     Findings& findings;
     NearestName finder;

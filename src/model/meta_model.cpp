@@ -29,7 +29,7 @@ ScaleCondition readCondition(json::Object object) {
     return condition;
 }
 
-Scaling readScaling(json::Object object) {
+Scaling readScaling(json::Object object, Arena& arena) {
     Scaling scaling;
     scaling.unit = readNumber(object, "unit", scaling.unit);
     scaling.power = readNumber(object, "power", scaling.power);
@@ -38,11 +38,11 @@ Scaling readScaling(json::Object object) {
     }
     const json::Value* conditions = json::find(object, "conditions");
     if (conditions == nullptr) return scaling;
+    std::vector<ScaleCondition> read;
     for (const json::Value& condition : conditions->array().value_or(json::Array())) {
-        if (const auto members = condition.object()) {
-            scaling.conditions.push_back(readCondition(*members));
-        }
+        if (const auto members = condition.object()) read.push_back(readCondition(*members));
     }
+    scaling.conditions = arena.keep(std::span<const ScaleCondition>(read));
     return scaling;
 }
 
@@ -62,8 +62,8 @@ std::string_view readTypeName(json::Object object, std::string_view type) {
 }
 
 MetaParameter readKnownParameter(std::string_view name, json::Object object,
-                                 std::uint32_t originFlag) {
-    MetaParameter parameter = readMetaParameter(name, object, originFlag);
+                                 std::uint32_t originFlag, Arena& arena) {
+    const MetaParameter parameter = readMetaParameter(name, object, originFlag, arena);
     if (parameter.code != type_code::unknown) return parameter;
     const std::string type(json::asText(json::at(object, "type")));
     endRun(failureStatus, "Type: " + type + " converts to an error\n");
@@ -71,13 +71,12 @@ MetaParameter readKnownParameter(std::string_view name, json::Object object,
 
 /// Adds the entries of a member of the plugin, which it may lack.
 void readParameters(json::Object plugin, std::string_view key, std::uint32_t originFlag,
-                    std::vector<MetaParameter>& parameters) {
+                    std::vector<MetaParameter>& parameters, Arena& arena) {
     const json::Value* member = json::find(plugin, key);
     if (member == nullptr) return;
     const json::Object entries = json::asObject(*member);
-    parameters.reserve(parameters.size() + entries.size());
     for (const auto& [name, value] : entries) {
-        parameters.push_back(readKnownParameter(name, json::asObject(value), originFlag));
+        parameters.push_back(readKnownParameter(name, json::asObject(value), originFlag, arena));
     }
 }
 
@@ -95,13 +94,17 @@ void mergeUserData(std::vector<MetaParameter>& parameters, std::size_t paramCoun
     parameters.erase(std::unique(parameters.begin(), parameters.end(), equal), parameters.end());
 }
 
-MetaPlugin readPlugin(std::string_view name, json::Object object) {
+/// The parameters are in a buffer that serves one plugin after the other.
+MetaPlugin readPlugin(std::string_view name, json::Object object,
+                      std::vector<MetaParameter>& parameters, Arena& arena) {
     MetaPlugin plugin;
     plugin.name = name;
-    readParameters(object, "params", 0, plugin.parameters);
-    const std::size_t paramCount = plugin.parameters.size();
-    readParameters(object, "userData", param_flag::fromUserData, plugin.parameters);
-    mergeUserData(plugin.parameters, paramCount);
+    parameters.clear();
+    readParameters(object, "params", 0, parameters, arena);
+    const std::size_t paramCount = parameters.size();
+    readParameters(object, "userData", param_flag::fromUserData, parameters, arena);
+    mergeUserData(parameters, paramCount);
+    plugin.parameters = arena.keep(std::span<const MetaParameter>(parameters));
     if (const json::Value* type = json::find(object, "type")) plugin.category = type->text();
     return plugin;
 }
@@ -110,15 +113,15 @@ MetaPlugin readPlugin(std::string_view name, json::Object object) {
 
 // In the order in which what is wrong with a parameter shows.
 MetaParameter readMetaParameter(std::string_view name, json::Object object,
-                                std::uint32_t originFlag) {
+                                std::uint32_t originFlag, Arena& arena) {
     MetaParameter parameter;
     parameter.name = name;
     const std::string_view type = json::asText(json::at(object, "type"));
     parameter.typeName = readTypeName(object, type);
     parameter.flags = originFlag | readFileFlags(object);
     if (const json::Value* scaling = json::find(object, "scaling")) {
-        Scaling read = readScaling(json::asObject(*scaling));
-        if (read.unit != 0) parameter.scaling = std::make_unique<Scaling>(std::move(read));
+        const Scaling read = readScaling(json::asObject(*scaling), arena);
+        if (read.unit != 0) parameter.scaling = arena.keep(std::span(&read, 1)).data();
     }
     parameter.code = typeCode(type, parameter.typeName);
     if (parameter.code == type_code::unknown) return parameter;
@@ -128,11 +131,12 @@ MetaParameter readMetaParameter(std::string_view name, json::Object object,
     return parameter;
 }
 
-MetaModel readMeta(json::Object plugins) {
+MetaModel readMeta(json::Object plugins, Arena& arena) {
     MetaModel model;
     model.reserve(plugins.size());
+    std::vector<MetaParameter> parameters;
     for (const auto& [name, plugin] : plugins) {
-        model.push_back(readPlugin(name, json::asObject(plugin)));
+        model.push_back(readPlugin(name, json::asObject(plugin), parameters, arena));
     }
     return model;
 }

@@ -89,7 +89,8 @@ TEST(ReadMeta, TheCategoryIsTheTypeOfThePlugin) {
 TEST(ReadMeta, BorrowsFromTheDocument) {
     const json::Document document =
         documentOf("{'A': {'type': 'material', 'params': {'a': {'type': 'float'}}}}");
-    const MetaModel model = readMeta(objectOf(document));
+    Arena arena;
+    const MetaModel model = readMeta(objectOf(document), arena);
     const char* const begin = document.text().data();
     EXPECT_EQ(at(model, "A").category->data(), begin + document.text().find("material"));
     EXPECT_EQ(at(at(model, "A").parameters, "a").typeName.data(),

@@ -29,13 +29,14 @@ inline json::Object objectOf(const json::Document& document) {
 class ReadModel {
 public:
     explicit ReadModel(std::string plugins)
-        : document(documentOf(std::move(plugins))), model(readMeta(objectOf(document))) {}
+        : document(documentOf(std::move(plugins))), model(readMeta(objectOf(document), arena)) {}
 
     // NOLINTNEXTLINE(google-explicit-constructor): reads like the model itself
     operator const MetaModel&() const { return model; }
 
 private:
     json::Document document;
+    Arena arena;
     MetaModel model;
 };
 
