@@ -1,5 +1,6 @@
-#include "cli/process.h"
 #include "lint/run.h"
+#include "support/end_run.h"
+#include "support/platform.h"
 
 int main(int argumentCount, char** arguments) {
     metagen::prepareStandardStreams();

@@ -16,11 +16,11 @@
 #include "lint/linter.h"
 #include "lint/replace_file.h"
 #include "lint/report.h"
-#include "lint/terminal.h"
 #include "metadata/base_document.h"
 #include "sdk/renderer.h"
 #include "sdk/sdk_session.h"
 #include "support/end_run.h"
+#include "support/platform.h"
 #include "support/text_file.h"
 
 namespace metagen::lint {

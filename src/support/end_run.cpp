@@ -2,7 +2,10 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <string>
+
+#include "support/platform.h"
 
 namespace metagen {
 
@@ -17,6 +20,24 @@ struct Failure {
 Failure& failureOfProgram() {
     static Failure failure;
     return failure;
+}
+
+/// Writes the text of the exception in flight; nothing when there is none, or it is no standard
+/// one.
+void reportException() try {
+    if (const std::exception_ptr exception = std::current_exception()) {
+        std::rethrow_exception(exception);
+    }
+} catch (const std::exception& exception) {
+    static_cast<void>(std::fprintf(stderr, "%s\n", exception.what()));
+} catch (...) {
+    static_cast<void>(std::fputs("unknown exception\n", stderr));
+}
+
+[[noreturn]] void endAbnormally() {
+    static_cast<void>(std::fflush(stdout));
+    reportException();
+    abortProcess();
 }
 
 }  // namespace
@@ -45,5 +66,7 @@ void requireOrExit(bool condition, std::string_view message) {
     static_cast<void>(std::fwrite(message.data(), 1, message.size(), stderr));
     endRun(failureStatus, "");
 }
+
+void installAbnormalEnd() { std::set_terminate(endAbnormally); }
 
 }  // namespace metagen

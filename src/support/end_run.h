@@ -1,5 +1,5 @@
-// What the tool prints, and the orderly ends of the process that commands use when they can't go
-// on.
+// What the tool prints, and the ends of the process: the orderly ones that commands use when they
+// can't go on, and the one by an exception that no command catches.
 #pragma once
 
 #include <string_view>
@@ -24,5 +24,9 @@ void endRunsAsFailureOf(std::string_view program, int status);
 /// When the condition is false, writes the message to standard error as it is, with no line feed
 /// added, and ends the process with status 1. What was printed before is flushed.
 void requireOrExit(bool condition, std::string_view message);
+
+/// From now on an exception that nobody catches ends the process abnormally: standard output is
+/// flushed, the exception's text and a line feed go to standard error, and the process aborts.
+void installAbnormalEnd();
 
 }  // namespace metagen

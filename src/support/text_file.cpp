@@ -5,11 +5,19 @@
 
 #include "support/end_run.h"
 #include "support/memory.h"
+#include "support/platform.h"
 
 namespace metagen {
 
 void FileCloser::operator()(std::FILE* file) const noexcept {
     static_cast<void>(std::fclose(file));
+}
+
+// The names are UTF-8, on Windows by the program's manifest.
+File openForReading(const char* path, const char* mode) {
+    File file(std::fopen(path, mode));
+    if (file != nullptr && isFolder(file.get())) return nullptr;  // its first read would fail
+    return file;
 }
 
 File openForWriting(const char* path, const char* mode) { return File(std::fopen(path, mode)); }

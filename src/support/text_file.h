@@ -1,7 +1,6 @@
 // Whole files: opened by name, read or written in one go, texts in the platform's text mode.
 #pragma once
 
-#include <cstddef>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -24,9 +23,6 @@ File openForReading(const char* path, const char* mode = "r");
 /// Creates or truncates a file, of text or (mode "wb") of bytes that stay as they are; null when
 /// that fails.
 File openForWriting(const char* path, const char* mode = "w");
-
-/// The number of bytes that the file holds, as far as the system knows; 0 for what has no size.
-std::size_t sizeOf(std::FILE* file);
 
 /// The rest of the file; nothing when reading fails.
 std::optional<std::string> readAll(std::FILE* file);

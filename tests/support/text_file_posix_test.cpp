@@ -5,6 +5,7 @@
 #include <string>
 #include <thread>
 
+#include "support/platform.h"
 #include "support/text_file.h"
 
 namespace metagen {

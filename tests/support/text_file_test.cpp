@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 
+#include "support/platform.h"
 #include "support/temporary_file.h"
 
 namespace metagen {

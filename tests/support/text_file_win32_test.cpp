@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "support/platform.h"
 #include "support/temporary_file.h"
 
 namespace metagen {

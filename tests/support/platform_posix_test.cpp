@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "cli/process.h"
+#include "support/platform.h"
 
 namespace metagen {
 namespace {
@@ -17,7 +17,7 @@ void endWithoutStreams() {
     _exit(areUsable ? 0 : 1);
 }
 
-TEST(ProcessOnPosixDeathTest, ClosedStreamsAreOpenedForWhatTheyAreFor) {
+TEST(PlatformOnPosixDeathTest, ClosedStreamsAreOpenedForWhatTheyAreFor) {
     EXPECT_EXIT(endWithoutStreams(), testing::ExitedWithCode(0), "");
 }
 
