@@ -1,4 +1,4 @@
-#include "lint/command_line.h"
+#include "lint/run.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,4 +1,4 @@
-#include "lint/default_quality.h"
+#include "lint/entry_checks.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "lint/entry_shape.h"
+#include "lint/entry_checks.h"
 
 #include <algorithm>
 #include <array>

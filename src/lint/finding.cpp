@@ -1,6 +1,7 @@
 #include "lint/finding.h"
 
 #include <algorithm>
+#include <array>
 #include <set>
 #include <string>
 #include <tuple>
@@ -30,6 +31,16 @@ void dropContradicted(std::vector<Finding>& found) {
 }
 
 }  // namespace
+
+std::string_view name(Severity severity) {
+    constexpr std::array<std::string_view, 3> names = {"note", "warning", "error"};
+    return names[static_cast<std::size_t>(severity)];
+}
+
+const Rule* findRule(std::string_view name) {
+    const auto found = std::ranges::find(rule::all, name, &Rule::name);
+    return found == rule::all.end() ? nullptr : *found;
+}
 
 std::vector<Finding> Findings::take() {
     std::ranges::stable_sort(found, {}, &Finding::offset);

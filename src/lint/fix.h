@@ -1,7 +1,9 @@
-// The repair of a stripped document: it loses what changes nothing.
+// The repair of a stripped document: it loses what changes nothing, and its file gets the rest as a
+// whole or stays as it was.
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "json/document.h"
@@ -17,5 +19,10 @@ bool isFixable(const Finding& finding);
 /// Throws std::logic_error when combine would make another document of it.
 std::string fixedText(const json::Document& stripped, const json::Document& base,
                       const std::vector<Finding>& findings);
+
+/// Writes the content beside the file, with its permissions, and renames that over it. What keeps
+/// it from that, or nothing: a file that is read-only, a link, one of several names of a file, a
+/// device that is full. The file is then as it was.
+std::string replaceFile(const std::string& path, std::string_view content);
 
 }  // namespace metagen::lint

@@ -1,8 +1,7 @@
-#include "lint/replace_file.h"
-
 #include <filesystem>
 #include <system_error>
 
+#include "lint/fix.h"
 #include "support/text_file.h"
 
 namespace metagen::lint {

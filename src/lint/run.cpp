@@ -11,11 +11,8 @@
 #include <system_error>
 #include <utility>
 
-#include "lint/command_line.h"
 #include "lint/fix.h"
 #include "lint/linter.h"
-#include "lint/replace_file.h"
-#include "lint/report.h"
 #include "metadata/base_document.h"
 #include "sdk/renderer.h"
 #include "sdk/sdk_session.h"
