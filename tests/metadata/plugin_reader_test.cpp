@@ -71,12 +71,12 @@ std::string parameterObject(FakeParameter parameter) {
     return text.substr(before.size(), text.size() - before.size() - after.size());
 }
 
-TEST(PluginObject, MayHaveNoCategoryAndNoParameters) {
+TEST(PluginReader, MayHaveNoCategoryAndNoParameters) {
     EXPECT_EQ(objectOf({.name = "A"}), R"({"type":null,"params":{}})");
     EXPECT_EQ(objectOf({.name = "B", .hasNullNames = true}), R"({"type":null,"params":{}})");
 }
 
-TEST(PluginObject, HasItsParametersInTheCombinedOrderAndTheirNamesUnescaped) {
+TEST(PluginReader, HasItsParametersInTheCombinedOrderAndTheirNamesUnescaped) {
     EXPECT_EQ(objectOf({.name = "b",
                         .categoryBits = 1U << 4U,
                         .parameters = {integer("z\"", 1), integer("type", 2), integer("A_1", 3)}}),
@@ -85,12 +85,12 @@ TEST(PluginObject, HasItsParametersInTheCombinedOrderAndTheirNamesUnescaped) {
               R"("z"":{"type":"integer","defaultValue":"1"}}})");
 }
 
-TEST(PluginObject, GoesByTheTypeText) {
+TEST(PluginReader, GoesByTheTypeText) {
     EXPECT_EQ(objectOf({.name = "A", .categoryBits = 1, .typeText = "TypeOfA"}),
               R"({"type":"bitmap","params":{}})");
 }
 
-TEST(PluginObject, KeepsTheFirstOfEqualParametersAndAsksNothingAboutOthers) {
+TEST(PluginReader, KeepsTheFirstOfEqualParametersAndAsksNothingAboutOthers) {
     FakeSdk sdk;
     EXPECT_EQ(
         objectOf(sdk, {.name = "Mtl_A", .parameters = {integer("x_y", 1), integer("X.Y", 2)}}),
@@ -98,7 +98,7 @@ TEST(PluginObject, KeepsTheFirstOfEqualParametersAndAsksNothingAboutOthers) {
     EXPECT_EQ(std::ranges::count(sdk.calls, "definition X.Y"), 0);
 }
 
-TEST(PluginObject, SomeTypeCodesAreNotRecordedAndKeepNoName) {
+TEST(PluginReader, SomeTypeCodesAreNotRecordedAndKeepNoName) {
     std::vector<FakeParameter> parameters;
     for (const std::int32_t code : {1000, 1001, 1002, 1003, 1004, 1005, 10000}) {
         parameters.push_back(integer("x", code, code));
@@ -111,7 +111,7 @@ TEST(PluginObject, SomeTypeCodesAreNotRecordedAndKeepNoName) {
     EXPECT_EQ(std::ranges::count(sdk.calls, "default x"), 0);
 }
 
-TEST(PluginObject, TheTypeCodesAroundThemAreRecorded) {
+TEST(PluginReader, TheTypeCodesAroundThemAreRecorded) {
     FakeSdk sdk;
     sdk.classes = {{.name = "A"}};
     for (const std::int32_t code : {-1, 0, 999, 1006, 9999, 10001}) {
@@ -128,7 +128,7 @@ TEST(PluginObject, TheTypeCodesAroundThemAreRecorded) {
                                "default 9999", "default 10001"}));
 }
 
-TEST(PluginObject, AnEqualNameIsAskedAboutUntilOneIsRecorded) {
+TEST(PluginReader, AnEqualNameIsAskedAboutUntilOneIsRecorded) {
     FakeSdk sdk;
     EXPECT_EQ(objectOf(sdk, {.name = "A",
                              .parameters = {integer("a_b", 1, 1000), integer("A.b", 2),
@@ -138,7 +138,7 @@ TEST(PluginObject, AnEqualNameIsAskedAboutUntilOneIsRecorded) {
     EXPECT_EQ(std::ranges::count(sdk.calls, "definition a.B"), 0);
 }
 
-TEST(PluginObject, LacksAParameterWithoutADefinition) {
+TEST(PluginReader, LacksAParameterWithoutADefinition) {
     FakeSdk sdk;
     entryPoints().Qyra_QyraRenderer_getPropertyDefinitionFromClass =
         [](void*, const char*, const char*) -> const void* { return nullptr; };
@@ -147,7 +147,7 @@ TEST(PluginObject, LacksAParameterWithoutADefinition) {
     EXPECT_EQ(std::ranges::count(sdk.calls, "gpuSupport p"), 0);
 }
 
-TEST(PluginObject, GivesBackWhatItHoldsWhenTheSdkFails) {
+TEST(PluginReader, GivesBackWhatItHoldsWhenTheSdkFails) {
     FakeParameter parameter = text("held");
     parameter.defaultValue = [fill = parameter.defaultValue](FakeSdk& sdk, QyraValue& value) {
         fill(sdk, value);
@@ -161,7 +161,7 @@ void readConflict(std::uint64_t categoryBits) {
     objectOf({.name = "A", .categoryBits = categoryBits, .typeText = "TypeOfA"});
 }
 
-TEST(PluginObjectDeathTest, CategoriesThatCanNotBeReconciledEndWithOne) {
+TEST(PluginReaderDeathTest, CategoriesThatCanNotBeReconciledEndWithOne) {
     EXPECT_EXIT(readConflict(1U << 2U | 1U << 6U), ::testing::ExitedWithCode(1),
                 "^Plugin type: TypeOfA has multiple incompatible categories:\n"
                 "\tnode\n\trender_channel\n$");
