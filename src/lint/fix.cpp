@@ -25,6 +25,7 @@ public:
     std::string without(std::size_t begin) {
         const Object object = walk(begin);
         if (object.isLeftEmpty) cuts.push_back(object.content);
+        std::ranges::sort(cuts, {}, &Range::begin);
         std::string out;
         std::size_t kept = 0;
         for (const Range& cut : cuts) {
@@ -46,42 +47,47 @@ private:
         Range content = {};  ///< from the first key to the end of the last value
     };
 
+    struct Member {
+        std::size_t end;
+        bool isRemoved;
+    };
+
     Object walk(std::size_t begin) {
         Object object;
         std::size_t at = skipBlanks(begin + 1);
-        bool hasKept = false;
-        std::size_t pendingBegin = at;  ///< where a cut begins when nothing is kept before
-        std::size_t previousEnd = at;
         object.content = {at, at};
         bool isCut = false;
+        bool hasKept = false;
         while (text[at] != '}') {
-            const std::size_t key = at;
-            const std::size_t value = skipBlanks(skipBlanks(skipString(key)) + 1);
-            const std::size_t cutsBefore = cuts.size();
-            Object inner;
-            inner.end = text[value] == '{' ? 0 : skipValue(value);
-            if (inner.end == 0) inner = walk(value);
-            const bool isRemoved =
-                !contains(fixed, key) && (inner.isLeftEmpty || contains(wanted, key));
-            if (isRemoved) {
-                cuts.resize(cutsBefore);  // what is within goes along
-                if (hasKept) cuts.push_back({previousEnd, inner.end});
-                isCut = true;
-            } else {
-                if (!hasKept && isCut) {
-                    cuts.insert(cuts.begin() + static_cast<std::ptrdiff_t>(cutsBefore),
-                                {pendingBegin, key});
-                }
-                if (inner.isLeftEmpty) cuts.push_back(inner.content);
-                hasKept = true;
+            const Member member = walkMember(at);
+            // The comma before a member goes along, or that behind it where nothing stays before.
+            if (member.isRemoved && hasKept) cuts.push_back({object.content.end, member.end});
+            if (!member.isRemoved && !hasKept && isCut) {
+                cuts.push_back({object.content.begin, at});
             }
-            previousEnd = object.content.end = inner.end;
-            at = skipBlanks(inner.end);
+            (member.isRemoved ? isCut : hasKept) = true;
+            object.content.end = member.end;
+            at = skipBlanks(member.end);
             if (text[at] == ',') at = skipBlanks(at + 1);
         }
         object.end = at + 1;
         object.isLeftEmpty = isCut && !hasKept;
         return object;
+    }
+
+    Member walkMember(std::size_t key) {
+        const std::size_t value = skipBlanks(skipBlanks(skipString(key)) + 1);
+        const std::size_t cutsBefore = cuts.size();
+        const Object inner =
+            text[value] == '{' ? walk(value) : Object{.end = skipValue(value), .content = {}};
+        const bool isRemoved =
+            !contains(fixed, key) && (inner.isLeftEmpty || contains(wanted, key));
+        if (isRemoved) {
+            cuts.resize(cutsBefore);  // what is within goes along
+        } else if (inner.isLeftEmpty) {
+            cuts.push_back(inner.content);
+        }
+        return {inner.end, isRemoved};
     }
 
     [[nodiscard]] std::size_t skipBlanks(std::size_t at) const {
@@ -115,7 +121,7 @@ private:
     std::string_view text;
     const Offsets& wanted;
     const Offsets& fixed;
-    std::vector<Range> cuts;  ///< in order
+    std::vector<Range> cuts;
 };
 
 }  // namespace
