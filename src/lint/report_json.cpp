@@ -115,6 +115,27 @@ void appendResult(std::string& out, const std::string& uri, const PlacedFinding&
     out += finding.notes.empty() ? "}" : "]}";
 }
 
+void appendFinding(std::string& out, const PlacedFinding& finding) {
+    appendPlace(out, finding.place, "line", "column");
+    out += ", ";
+    appendMember(out, "severity", name(finding.rule->severity));
+    out += ", ";
+    appendMember(out, "rule", finding.rule->name);
+    out += ", ";
+    appendMember(out, "message", finding.message);
+    out += ", \"notes\": [";
+    const char* separator = "";
+    for (const PlacedNote& note : finding.notes) {
+        out.append(separator).append("{");
+        appendPlace(out, note.place, "line", "column");
+        out += ", ";
+        appendMember(out, "message", note.message);
+        out += "}";
+        separator = ", ";
+    }
+    out += "]";
+}
+
 }  // namespace
 
 std::string jsonReport(std::string_view path, const std::vector<PlacedFinding>& findings) {
@@ -124,24 +145,8 @@ std::string jsonReport(std::string_view path, const std::vector<PlacedFinding>& 
     const char* separator = "";
     for (const PlacedFinding& finding : findings) {
         out.append(separator).append("\n  {");
-        appendPlace(out, finding.place, "line", "column");
-        out += ", ";
-        appendMember(out, "severity", name(finding.rule->severity));
-        out += ", ";
-        appendMember(out, "rule", finding.rule->name);
-        out += ", ";
-        appendMember(out, "message", finding.message);
-        out += ", \"notes\": [";
-        const char* noteSeparator = "";
-        for (const PlacedNote& note : finding.notes) {
-            out.append(noteSeparator).append("{");
-            appendPlace(out, note.place, "line", "column");
-            out += ", ";
-            appendMember(out, "message", note.message);
-            out += "}";
-            noteSeparator = ", ";
-        }
-        out += "]}";
+        appendFinding(out, finding);
+        out += "}";
         separator = ",";
     }
     return out += findings.empty() ? "]}\n" : "\n]}\n";
