@@ -2,6 +2,7 @@
 for the same seed: about half of them are without an error. Other documents serve, too, laid over an
 SDK that knows nothing."""
 
+import copy
 import random
 
 from random_combined import random_combined
@@ -143,6 +144,9 @@ class Fitting:
 
     # Changes
 
+    def leaf(self):
+        return copy.deepcopy(self.pick(LEAVES))  # it may be changed, and must not hold itself
+
     def places(self, value):
         """All objects and arrays of a document."""
         if isinstance(value, (dict, list)):
@@ -157,7 +161,7 @@ class Fitting:
             return
         container = self.pick(containers)
         if isinstance(container, list):
-            container[self.random.randrange(len(container))] = self.pick(LEAVES)
+            container[self.random.randrange(len(container))] = self.leaf()
             return
         key = self.pick(tuple(container))
         action = self.random.randrange(8)
@@ -166,9 +170,9 @@ class Fitting:
         elif action == 2:
             container[self.pick(KEYS)] = container.pop(key)
         elif action == 3:
-            container[self.pick(KEYS)] = self.pick((*LEAVES, *TEXTS))
+            container[self.pick(KEYS)] = copy.deepcopy(self.pick((*LEAVES, *TEXTS)))
         elif action == 4:
-            container[key] = self.pick(LEAVES)
+            container[key] = self.leaf()
         elif isinstance(container[key], str) or self.chance(0.2):
             container[key] = self.pick(TEXTS)
 
