@@ -76,8 +76,11 @@ TEST(BaseDocument, IsTheSameInAFile) {
 }
 
 TEST(BaseDocument, ATypeWithoutNameCountsOnlyInAClassThatIsKept) {
-    EXPECT_EQ(documentOf({{.name = "a"}, {.name = "A", .parameters = {nameless}}}),
-              R"({"plugins":{"a":{"type":null,"params":{}}}})");
+    EXPECT_EQ(documentOf({{.name = "a"},
+                          {.name = "A", .parameters = {nameless}},
+                          {.name = "b", .parameters = {boolean("p")}}}),
+              R"({"plugins":{"a":{"type":null,"params":{}},)"
+              R"("b":{"type":null,"params":{"p":{"type":"bool","defaultValue":"1"}}}}})");
 }
 
 TEST(BaseDocumentDeathTest, ATypeWithoutNameEndsTheProcessWhenTheTextIsMade) {
