@@ -26,6 +26,14 @@ def refusals(schema, document):
 class ReadmeTest(unittest.TestCase):
     maxDiff = None
 
+    def test_the_first_command(self):
+        run = subprocess.run([ROOT / "demo"], stdin=subprocess.DEVNULL, capture_output=True,
+                             text=True, check=False)
+        self.assertEqual(0, run.returncode, run.stdout + run.stderr)
+        self.assertIn("\nThe compiled-in and the loaded tables agree.\n", run.stdout)
+        self.assertIn('build/demo/mistake.json:7:9: error: the SDK\'s "AreaLight" has no parameter '
+                      '"u_sise" (did you mean "u_size"?)', run.stdout)
+
     def test_the_first_own_document(self):
         with tempfile.TemporaryDirectory(prefix="metagen-test-") as name:
             folder = pathlib.Path(name)
