@@ -8,18 +8,18 @@ namespace metagen::invented {
 namespace {
 
 constexpr std::array<Category, 12> categories = {{
-    {"texture", 9, "Texture", 145},
-    {"material", 5, "Material", 120},
-    {"light", 4, "Light", 108},
-    {"settings", 8, "Settings", 108},
-    {"", -1, "Helper", 108},
-    {"geometry", 3, "Geometry", 97},
-    {"node", 2, "Node", 84},
-    {"BRDF", 1, "Brdf", 60},
-    {"render_channel", 6, "Channel", 60},
-    {"volumetric", 16, "Volume", 38},
-    {"uvw", 15, "Uvw", 36},
-    {"bitmap", 0, "Bitmap", 36},
+    {9, "Texture", 145},
+    {5, "Material", 120},
+    {4, "Light", 108},
+    {8, "Settings", 108},
+    {-1, "Helper", 108},
+    {3, "Geometry", 97},
+    {2, "Node", 84},
+    {1, "Brdf", 60},
+    {6, "Channel", 60},
+    {16, "Volume", 38},
+    {15, "Uvw", 36},
+    {0, "Bitmap", 36},
 }};
 
 constexpr std::array<std::string_view, 24> classAdjectives = {

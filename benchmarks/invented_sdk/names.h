@@ -10,10 +10,9 @@
 
 namespace metagen::invented {
 
-/// A category of plugin classes: its name in documents (empty for none), its bit, the words with
-/// which names of its classes end, and how many of a thousand classes are of it.
+/// A category of plugin classes: its bit, the word with which names of its classes end, and how
+/// many of a thousand classes are of it.
 struct Category {
-    std::string_view name;
     int bit;  ///< -1: none
     std::string_view classWord;
     std::size_t share;
