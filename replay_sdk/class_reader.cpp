@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "replay_sdk/parameter_reader.h"
-#include "replay_sdk/vocabulary.h"
+#include "sdk/parameter_type.h"
 
 namespace metagen::replay {
 
@@ -19,11 +19,13 @@ std::string nameOf(const CatalogueNode& member) {
     return std::string(member.name);
 }
 
+/// The first of the bits that alone give the name.
 std::uint64_t readCategoryName(const CatalogueNode& name) {
     if (name.isNull()) return 0;
-    const std::optional<unsigned> bit = categoryBitOf(name.text());
-    if (!bit) name.fail("unknown category \"" + name.text() + '"');
-    return std::uint64_t{1} << *bit;
+    const std::string wanted = name.text();
+    for (int code = 0; categoryName(code); ++code)
+        if (categoryName(code) == wanted) return std::uint64_t{1} << static_cast<unsigned>(code);
+    name.fail("unknown category \"" + wanted + '"');
 }
 
 std::uint64_t readCategoryBits(const CatalogueNode& node) {

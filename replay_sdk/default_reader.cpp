@@ -2,17 +2,24 @@
 
 #include <utility>
 
-#include "replay_sdk/vocabulary.h"
+#include "sdk/qyra_sdk.h"
 
 namespace metagen::replay {
 
 namespace {
 
+/// The tag of a kind's name, such as "color" or "integerList", or any other number.
 std::int32_t readKind(const CatalogueNode& node) {
     if (!node.value.text().has_value()) return node.integer32();
-    const std::optional<std::int32_t> kind = kindOf(node.text());
-    if (!kind) node.fail("unknown kind \"" + node.text() + '"');
-    return *kind;
+    const std::string name = node.text();
+    if (name == "badValue") return qyra_kind::bad;
+    if (name == "unspecified") return qyra_kind::unspecified;
+    for (const ParameterType& type : parameterTypes) {
+        if (type.shape != ValueShape::none && name == type.name) return type.code;
+        const bool isList = name == std::string(type.name) + "List";
+        if (isList && !type.listWord.empty()) return listCodeOf(type.code);
+    }
+    node.fail("unknown kind \"" + name + '"');
 }
 
 std::uint8_t readByte(const CatalogueNode& node) {

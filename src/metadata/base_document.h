@@ -25,9 +25,6 @@ struct CategoryResolution {
     std::uint32_t conflictingBits = 0;
 };
 
-/// The name of a category code, or none.
-std::optional<std::string_view> categoryName(int code);
-
 /// Reconciles the category bits (bit n stands for category code n; bits from 20 up don't count).
 CategoryResolution resolveCategory(std::uint64_t bits);
 

@@ -3,6 +3,8 @@
 #include <array>
 #include <bit>
 
+#include "sdk/parameter_type.h"
+
 namespace metagen {
 
 namespace {
@@ -16,21 +18,11 @@ constexpr int settingsCode = 8;
 constexpr int texture = 9;
 constexpr std::array<int, 5> codesByPrecedence = {4, 5, 1, texture, 3};
 
-constexpr std::array<std::string_view, 17> names = {
-    "bitmap",         "BRDF",     "node",     "geometry", "light",     "material",
-    "render_channel", "settings", "settings", "texture",  "texture",   "texture",
-    "texture",        "texture",  "texture",  "uvw",      "volumetric"};
-
 CategoryResolution only(std::uint32_t bits) {
     return {.name = categoryName(std::countr_zero(bits))};
 }
 
 }  // namespace
-
-std::optional<std::string_view> categoryName(int code) {
-    const bool named = code >= 0 && static_cast<std::size_t>(code) < names.size();
-    return named ? std::optional(names[static_cast<std::size_t>(code)]) : std::nullopt;
-}
 
 CategoryResolution resolveCategory(std::uint64_t bits) {
     std::uint32_t left = static_cast<std::uint32_t>(bits) & knownBits;

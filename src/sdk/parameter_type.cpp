@@ -8,6 +8,11 @@ namespace metagen {
 
 namespace {
 
+constexpr std::array<std::string_view, 17> categoryNames = {
+    "bitmap",         "BRDF",     "node",     "geometry", "light",     "material",
+    "render_channel", "settings", "settings", "texture",  "texture",   "texture",
+    "texture",        "texture",  "texture",  "uvw",      "volumetric"};
+
 /// The type that a code names: its own, or that of a list's elements.
 const ParameterType* findNamedType(std::int32_t code) {
     const bool isTypedList =
@@ -46,6 +51,11 @@ std::int32_t typeCode(std::string_view name, std::string_view listTypeName) {
     if (code != type_code::list) return code;
     const std::int32_t element = typeCode(listTypeName);
     return element == type_code::unknown ? type_code::unknown : listCodeOf(element);
+}
+
+std::optional<std::string_view> categoryName(int code) {
+    const auto place = static_cast<std::size_t>(code);  // of a negative code beyond all names
+    return place < categoryNames.size() ? std::optional(categoryNames[place]) : std::nullopt;
 }
 
 }  // namespace metagen

@@ -1,10 +1,11 @@
 // The SDK's vocabulary of parameter types and of the values that they have: one row for each type,
-// which whoever reads, writes or serves values goes by.
+// which whoever reads, writes or serves values goes by. And that of plugin categories.
 #pragma once
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace metagen {
@@ -125,5 +126,8 @@ std::int32_t typeCode(std::string_view name);
 
 /// The same; where the name is "list", the code of the list whose elements have the other name.
 std::int32_t typeCode(std::string_view name, std::string_view listTypeName);
+
+/// The name of a category of plugins by the number of its bit, or none.
+std::optional<std::string_view> categoryName(int code);
 
 }  // namespace metagen

@@ -25,16 +25,6 @@ std::uint32_t conflictOf(std::initializer_list<int> codes) {
     return category.conflictingBits;
 }
 
-TEST(CategoryName, OfEveryCode) {
-    const std::initializer_list<const char*> names = {
-        "bitmap",         "BRDF",     "node",     "geometry", "light",     "material",
-        "render_channel", "settings", "settings", "texture",  "texture",   "texture",
-        "texture",        "texture",  "texture",  "uvw",      "volumetric"};
-    int code = 0;
-    for (const char* name : names) EXPECT_EQ(categoryName(code++), name);
-    for (const int unnamed : {17, 18, 19, 20, -1}) EXPECT_EQ(categoryName(unnamed), std::nullopt);
-}
-
 TEST(ResolveCategory, OneBitIsItsName) {
     EXPECT_EQ(nameOf({}), "none");
     EXPECT_EQ(nameOf({6}), "render_channel");

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <map>
+#include <optional>
 #include <string>
 
 #include "support/exit_status.h"
@@ -113,6 +115,16 @@ TEST(FindElementType, IsNullForWhatIsNoListOfOneType) {
         EXPECT_EQ(findElementType(kind), nullptr) << kind;
     }
     EXPECT_EQ(findElementType(105)->name, "color");
+}
+
+TEST(CategoryName, OfEveryCode) {
+    const std::initializer_list<const char*> categories = {
+        "bitmap",         "BRDF",     "node",     "geometry", "light",     "material",
+        "render_channel", "settings", "settings", "texture",  "texture",   "texture",
+        "texture",        "texture",  "texture",  "uvw",      "volumetric"};
+    int code = 0;
+    for (const char* name : categories) EXPECT_EQ(categoryName(code++), name);
+    for (const int unnamed : {17, 18, 19, 20, -1}) EXPECT_EQ(categoryName(unnamed), std::nullopt);
 }
 
 }  // namespace
