@@ -3,10 +3,6 @@
 #include <map>
 #include <utility>
 
-#include "replay_sdk/catalogue_node.h"
-#include "replay_sdk/class_reader.h"
-#include "replay_sdk/instance_reader.h"
-
 namespace metagen::replay {
 
 namespace {

@@ -1,4 +1,4 @@
-#include "replay_sdk/default_reader.h"
+#include "replay_sdk/catalogue_reader.h"
 
 #include <utility>
 

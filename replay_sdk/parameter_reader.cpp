@@ -1,8 +1,7 @@
-#include "replay_sdk/parameter_reader.h"
+#include "replay_sdk/catalogue_reader.h"
 
 #include <utility>
 
-#include "replay_sdk/default_reader.h"
 #include "sdk/parameter_type.h"
 
 namespace metagen::replay {

@@ -1,4 +1,4 @@
-#include "replay_sdk/parameter_reader.h"
+#include "replay_sdk/catalogue_reader.h"
 
 #include <gtest/gtest.h>
 
