@@ -92,7 +92,7 @@ def native(value):
     return str(value)
 
 
-def _comparable_status(status):
+def comparable_status(status):
     return BROKEN_METADATA if status == 0xFFFFFFFF else status
 
 
@@ -111,6 +111,23 @@ def environment_of_run(values):
     environment.update((name, native(value)) for name, value in values.items()
                        if value is not None)
     return environment
+
+
+def ledger_fault(ledger, status):
+    """What a run did wrong with the SDK, by the ledger that it left; none when all is well. A run
+    that returns gives everything back. One that ends the process in the middle may still hold what
+    it was working with, but has misused nothing."""
+    if not ledger.exists():
+        return None
+    text = ledger.read_text(encoding="utf-8")
+    state, *lines = text.split("\n")
+    findings = [line for line in lines if line.startswith("finding ")]
+    if status in (FAILURE, BROKEN_METADATA):
+        findings = [line for line in findings if " not released: " not in line]
+        state = "clean" if not findings else state
+    is_started = status != 0 or "start-up reference counted, frame buffer off" in lines
+    expected = "unfinished" if status == ABORTED else "clean"
+    return None if (state, findings, is_started) == (expected, [], True) else text
 
 
 class CommandTest(unittest.TestCase):
@@ -139,24 +156,9 @@ class CommandTest(unittest.TestCase):
             cwd=self.folder, env=environment_of_run(values), stdin=subprocess.DEVNULL,
             capture_output=True, timeout=RUN_SECONDS, check=False,
             preexec_fn=None if os.name == "nt" else _without_core_file)
-        run = Run(_comparable_status(finished.returncode), finished.stdout, finished.stderr)
-        self._check_ledger(run)
+        run = Run(comparable_status(finished.returncode), finished.stdout, finished.stderr)
+        self.assertIsNone(ledger_fault(self._ledger, run.status), run)
         return run
-
-    def _check_ledger(self, run):
-        """A run that returns gives everything back. One that ends the process in the middle may
-        still hold what it was working with, but has misused nothing."""
-        if not self._ledger.exists():
-            return
-        state, *lines = self._ledger.read_text(encoding="utf-8").split("\n")
-        findings = [line for line in lines if line.startswith("finding ")]
-        if run.status in (FAILURE, BROKEN_METADATA):
-            findings = [line for line in findings if " not released: " not in line]
-            state = "clean" if not findings else state
-        if run.status == 0:
-            self.assertIn("start-up reference counted, frame buffer off", lines)
-        expected = "unfinished" if run.status == ABORTED else "clean"
-        self.assertEqual((expected, []), (state, findings), run)
 
     def calls_of(self, entry_point):
         """How often the last run called it."""

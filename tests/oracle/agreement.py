@@ -175,7 +175,7 @@ def fix_case(seed):
     base, stripped = random_lint(seed)
     return Case(["--fix", "--format", "json", "--base", "base.json", "stripped.json"],
                 {"base.json": base, "stripped.json": stripped}, expect_fix, binary=harness.LINTER,
-                indent=(None, 2, "\t")[seed % 3], observe=observe_fix)
+                observe=observe_fix)
 
 
 CASES = {
@@ -192,6 +192,7 @@ CASES = {
 def case_of(command, seed):
     case = CASES[command](seed)
     case.ascii = seed % 2 == 0
+    case.indent = (None, 2, "\t")[seed % 3]
     return case
 
 
@@ -212,9 +213,8 @@ def run(case, texts, folder):
     finished = subprocess.run(
         [*harness.LAUNCHER, str(case.binary), *case.arguments], cwd=folder, env=environment,
         stdin=subprocess.DEVNULL, capture_output=True, timeout=harness.RUN_SECONDS, check=False)
-    status = 255 if finished.returncode == 0xFFFFFFFF else finished.returncode
-    if status == 0 and ledger.exists() and ledger.read_text("utf-8").split("\n")[0] != "clean":
-        finished.stderr += b"\n" + ledger.read_bytes()
+    status = harness.comparable_status(finished.returncode)
+    finished.stderr += (harness.ledger_fault(ledger, status) or "").encode()
     files = {path.name: path.read_bytes() for path in folder.iterdir()
              if path.name not in texts and path != ledger}
     return End(status, finished.stdout, finished.stderr, files)
