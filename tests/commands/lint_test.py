@@ -24,7 +24,7 @@ BASE = """{"plugins": {"Glass": {"type": "material", "params": {
 "depth": {"type": "float", "defaultValue": "1"},
 "level": {"type": "integer", "defaultValue": "#BadValue"},
 "tint": {"type": "color", "defaultValue": "Color(1, 1, 1)"}}},
-"Light": {"type": "light", "params": {}}}}"""
+"Door": {"type": "light", "params": {}}, "Light": {"type": "light", "params": {}}}}"""
 PREVIOUS = """{"plugins": {"Glass": {"type": "BRDF", "params": {
 "depth": {"type": "integer", "defaultValue": "2"},
 "fog": {"type": "bool", "defaultValue": "0"}, "level": {"type": "integer"},
@@ -35,7 +35,8 @@ UPGRADED = """{"version": 1, "plugins": {
 "params": {"depth": {"defaultValue": "3"},
 "fog": {"type": "bool"}, "level": {"defaultValue": "0"},
 "tint": {"scaling": {"power": 2}}}},
-"Lamp": {"type": "light", "params": {"power": {"defaultValue": "2"}}}
+"Lamp": {"type": "light", "params": {"power": {"defaultValue": "2"}}},
+"Door": null
 }}"""
 UPGRADE = """\
 stripped.json:2:19: warning: the SDK's category of Glass changed from "BRDF" to "material" below \
@@ -174,6 +175,12 @@ class Mistakes(LintTest):
         self.assert_lint(UPGRADED, UPGRADE, "--previous", previous, status=1)
         level = '{"version": 1, "plugins": {"Glass": {"params": {"level": {"defaultValue": "0"}}}}}'
         self.assert_lint(level, "", "--previous", self.write("same.json", BASE))
+        # Where the document says nothing, the SDK's changes are none of its matter.
+        level = level.replace('"params": {', '"params": {"tint": {}, "depth": {}, ')
+        place = level.index('"0"') + 1
+        self.assert_lint(level, f"stripped.json:1:{place}: note: the SDK's default of Glass level "
+                         'changed from none to "#BadValue" below this one [default-changed]\n',
+                         "--previous", previous)
 
     def test_a_default_that_the_sdk_lacks(self):
         text = ('the SDK\'s "#BadValue" is no number, which the type integer needs, so genm ends '
@@ -184,6 +191,17 @@ class Mistakes(LintTest):
                          f"stripped.json:2:2: {owner}{text}", status=1)
         self.assert_lint('{"version": 1, "plugins": {\n "Glass": {"params": {"level": {}}}}}',
                          f"stripped.json:2:23: {owner}{text}", status=1)
+
+    def test_what_only_the_sdk_has_is_told_at_the_beginning(self):
+        base = '{"plugins": {"A": {"params": {"a": {"type": "Float"}}}}}'
+        self.assert_lint('{ "version": 1}', 'stripped.json:1:1: error: "Float" is no type (did you '
+                         'mean "float"?), so genm ends [unknown-type]\n', base=base, status=1)
+
+    def test_nesting_has_a_limit(self):
+        begin = '{"version": 1, "plugins": '
+        self.assert_lint(begin + "[" * 120,
+                         f"stripped.json:1:{len(begin) + 102}: error: not JSON: the document nests "
+                         "too deeply [syntax]\n", status=1)
 
     def test_columns_count_characters_and_lines_end_anyhow(self):
         document = '{"version": 1,\r\n"\u00e4\U0001f4f7": "\u6771", "plugin": {}}'
@@ -298,6 +316,8 @@ class CommandLine(LintTest):
         for base, fault in (("{", "it is not JSON, line 1"), ("[]", "it is not an object"),
                             ("{}", 'it has no object "plugins"'),
                             ('{"plugins": {"A": 1}}', '"A" is not an object'),
+                            ('{"plugins": {"A": {"note": 1, "params": 5}}}',
+                             'A: "params" is not an object'),
                             ('{"plugins": {"A": {"params": {"b": {}}}}}',
                              'A b: "type" is not there')):
             with self.subTest(base):

@@ -37,6 +37,9 @@ TEST(Fix, TakesAMemberWithTheCommaThatGoesWithIt) {
               R"("A": {"params": {"size": {"handler": "H" }}})");
     EXPECT_EQ(fixed(R"("A": {"params": {"size": {"a": 1, "type": "float", "b": [2, "}"]}}})"),
               R"("A": {"params": {"size": {"a": 1, "b": [2, "}"]}}})");
+    EXPECT_EQ(
+        fixed(R"("A": {"params": {"size": {"a": [{"c": "]", "type": 1}], "type": "float"}}})"),
+        R"("A": {"params": {"size": {"a": [{"c": "]", "type": 1}]}}})");
 }
 
 TEST(Fix, TakesSeveralInARow) {

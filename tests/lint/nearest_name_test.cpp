@@ -40,6 +40,8 @@ TEST(NearestName, IsTheOneWithTheFewestDifferences) {
 TEST(NearestName, IsEmptyWhereNoneIsNear) {
     EXPECT_EQ(nearestOf("on", {"off", "a"}), "");
     EXPECT_EQ(nearestOf("unheard_of", {"depth", "count"}), "");
+    EXPECT_EQ(nearestOf("absorption", {"absorbtium"}), "absorbtium");
+    EXPECT_EQ(nearestOf("absorption", {"absorbtiums"}), "");
 }
 
 TEST(NearestName, IsNoLongerLookedForWhenTooMuchWasAsked) {

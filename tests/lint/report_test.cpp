@@ -36,6 +36,12 @@ TEST(Report, ForWorkflows) {
               "\"a\" twice%0Aline 1: given here before\n");
 }
 
+TEST(Report, ForWorkflowsKeepsItsLine) {
+    const std::vector<PlacedFinding> findings = {{&rule::syntax, {1, 1}, "wrong: a, b", {}}};
+    EXPECT_EQ(report("a\r\n:b", findings, {.format = Format::github}),
+              "::error file=a%0D%0A%3Ab,line=1,col=1,title=syntax::wrong: a, b\n");
+}
+
 TEST(Report, AsJson) {
     EXPECT_EQ(reported({.format = Format::json}),
               "{\"path\": \"a,b.json\", \"findings\": [\n"
@@ -65,6 +71,18 @@ TEST(Report, AsSarifIsWholeJson) {
               R"([{"message":{"text":"given here before"},"physicalLocation":)"
               R"({"artifactLocation":{"uri":"a%2Cb.json"},)"
               R"("region":{"startColumn":2,"startLine":1}}}])");
+}
+
+TEST(Report, AsSarifNamesAFileByItsReference) {
+    const std::vector<PlacedFinding> findings = {{&rule::syntax, {1, 1}, "wrong", {}}};
+    const auto uri = [&findings](std::string_view path) {
+        const std::string sarif = report(path, findings, {.format = Format::sarif});
+        const std::size_t begin = sarif.find("\"uri\": ") + 7;
+        return sarif.substr(begin, sarif.find('}', begin) - begin);
+    };
+    EXPECT_EQ(uri("a b.json"), "\"a%20b.json\"");
+    EXPECT_EQ(uri("/a/b"), "\"file:///a/b\"");
+    EXPECT_EQ(uri("C:/a b"), "\"file:///C:/a%20b\"");
 }
 
 }  // namespace
