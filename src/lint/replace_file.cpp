@@ -1,5 +1,6 @@
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "lint/fix.h"
 #include "support/text_file.h"
@@ -25,13 +26,11 @@ std::string refusal(const fs::path& path) {
     return error ? error.message() : "";
 }
 
-bool writeNew(const std::string& path, std::string_view content) {
-    File file = openForWriting(path.c_str(), "wbx");
-    if (!file) return false;
-    const bool isWritten =
-        std::fwrite(content.data(), 1, content.size(), file.get()) == content.size() &&
-        std::fflush(file.get()) == 0;
-    return std::fclose(file.release()) == 0 && isWritten;
+/// Whether all of it is written.
+bool write(File file, std::string_view content) {
+    const bool isTaken =
+        std::fwrite(content.data(), 1, content.size(), file.get()) == content.size();
+    return std::fclose(file.release()) == 0 && isTaken;
 }
 
 }  // namespace
@@ -40,9 +39,11 @@ std::string replaceFile(const std::string& path, std::string_view content) {
     if (std::string reason = refusal(path); !reason.empty()) return reason;
     const std::string beside = path + ".metagen-lint";
     std::error_code error;
-    if (fs::exists(beside, error)) return "there is a file " + beside;
+    if (fs::exists(fs::symlink_status(beside, error))) return "there is a file " + beside;
+    File file = openForWriting(beside.c_str(), "wbx");
+    if (!file) return beside + " can't be written";
     std::error_code ignored;
-    if (!writeNew(beside, content)) {
+    if (!write(std::move(file), content)) {
         fs::remove(beside, ignored);
         return beside + " can't be written";
     }

@@ -426,6 +426,17 @@ class Fix(LintTest):
         self.assert_refused("it is read-only")
         path.chmod(stat.S_IREAD | stat.S_IWRITE)
 
+    def test_a_file_beside_stays(self):
+        self.write("stripped.json", self.DOCUMENT)
+        beside = self.write("stripped.json.metagen-lint", "mine")
+        self.assert_refused("there is a file stripped.json.metagen-lint")
+        self.assertEqual("mine", beside.read_text())
+        if not harness.WINDOWS:
+            beside.unlink()
+            beside.symlink_to("nowhere")
+            self.assert_refused("there is a file stripped.json.metagen-lint")
+            self.assertTrue(beside.is_symlink())
+
     @unittest.skipIf(harness.WINDOWS, "links are made by those who may")
     def test_a_link_stays(self):
         self.write("document.json", self.DOCUMENT)
