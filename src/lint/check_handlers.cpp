@@ -182,11 +182,11 @@ private:
         return word ? findHandlerKind(*word) : nullptr;
     }
 
+    /// Of a parameter that has one.
     static std::string handlerText(const Plugin& plugin, std::string_view name) {
-        const json::Value* handler = handlerOf(plugin, name);
-        if (handler == nullptr) return "no handler";
-        const auto word = handler->text();
-        return word ? printable(word->substr(0, 80)) : described(*handler);
+        const json::Value& handler = *handlerOf(plugin, name);
+        const auto word = handler.text();
+        return word ? printable(word->substr(0, 80)) : described(handler);
     }
 
     [[nodiscard]] std::string firstDataOf(const Plugin& plugin, std::string_view name) const {

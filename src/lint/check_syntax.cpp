@@ -69,7 +69,6 @@ public:
 private:
     std::string inString() {
         const std::size_t begin = where.stringBegin;
-        const std::string_view read = text.substr(begin, offset - begin);
         const char byte = offset < text.size() ? text[offset] : '\n';
         if (byte == '\n' || byte == '\r') {
             const bool ends = offset >= text.size();
@@ -83,9 +82,7 @@ private:
             return "a control character within a text is written " +
                    printable(text.substr(offset, 1));
         }
-        return read.find('\\') != std::string_view::npos
-                   ? "a backslash stands before what makes no escape; write \\\\ for a backslash"
-                   : "the text can't be read any further";
+        return "a backslash stands before what makes no escape; write \\\\ for a backslash";
     }
 
     /// The parser has read a number by the time it is known to be too large, or to lack its end.
@@ -95,8 +92,7 @@ private:
         const std::string_view number = text.substr(begin, offset - begin);
         if (number.empty() || !(isDigit(number.front()) || number.front() == '-')) return "";
         const bool isHuge = !std::isfinite(readDoublePrefix(number));
-        if (!isHuge && isDigit(number.back())) return "";
-        if (!isHuge && number.back() == '.') return "";
+        if (!isHuge && (isDigit(number.back()) || number.back() == '.')) return "";
         offset = begin;
         return "the number " + inQuotes(number) + (isHuge ? " is too large" : " lacks its end");
     }
@@ -171,10 +167,6 @@ private:
     [[nodiscard]] bool isFraction(char byte) const {
         return isDigit(byte) && where.isKeyNext && where.before == ',' &&
                offset == where.last + 1 && where.last > 0 && isDigit(text[where.last - 1]);
-    }
-
-    static char lowerCased(char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
     }
 
     std::string_view text;

@@ -5,16 +5,14 @@
 #include <numeric>
 #include <utility>
 
+#include "lint/wording.h"
+
 namespace metagen::lint {
 
 namespace {
 
 /// Names are shorter than that; longer ones are near to none.
 constexpr std::size_t longestName = 64;
-
-char lowerCased(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
 
 /// From how many letters on another name is no misspelling of this one.
 std::size_t limitFor(std::string_view name) {

@@ -20,6 +20,11 @@ std::string inQuotes(std::string_view text);
 /// A text in double quotes, any other value as what it is: 7, true, null, an object.
 std::string described(const json::Value& value);
 
+/// The ASCII letter in lower case; any other byte as it is.
+constexpr char lowerCased(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
 /// Two words of an owner, such as a plugin and its parameter, as messages begin with them.
 std::string ownerName(std::string_view plugin, std::string_view parameter);
 
