@@ -26,64 +26,60 @@ constexpr std::int32_t singleGuide = -101;
 /// Not a kind: the text "none", with which the SDK says that a parameter has no default.
 constexpr std::int32_t noDefault = -100;
 
-constexpr std::int32_t single = 0;
-constexpr std::int32_t list = 1;
-
 /// How many of a thousand parameters are of this type, and with what kind of default.
 struct MixEntry {
-    std::size_t share;
-    std::int32_t typeCode;
-    std::int32_t isList;
-    std::int32_t kind;
-    std::int32_t elementKind;
+    std::size_t share = 0;
+    std::int32_t typeCode = 0;
+    std::int32_t kind = 0;
+    std::int32_t elementKind = 0;  ///< of a generic list
 };
 
 constexpr std::array<MixEntry, 45> mix = {{
-    {188, 1, single, kind::floatNumber, 0},
-    {20, 1, single, singleGuide, 0},
-    {8, 2, single, kind::doubleNumber, 0},
-    {141, 0, single, kind::integer, 0},
-    {127, 3, single, kind::boolean, 0},
-    {32, 11, single, kind::acolor, 0},
-    {14, 11, single, kind::color, 0},
-    {14, 11, single, acolorGuide, 0},
-    {8, 11, single, colorGuide, 0},
-    {12, 11, single, kind::plugin, 0},
-    {14, 11, single, noDefault, 0},
-    {64, 9, single, kind::string, 0},
-    {34, 13, single, kind::floatNumber, 0},
-    {18, 13, single, singleGuide, 0},
-    {36, 10, single, kind::plugin, 0},
-    {12, 10, single, noDefault, 0},
-    {34, 5, single, kind::color, 0},
-    {18, 4, single, kind::vector, 0},
-    {12, 6, single, kind::acolor, 0},
-    {25, 8, single, kind::transform, 0},
-    {14, 7, single, kind::matrix, 0},
-    {5, 17, single, kind::transform, 0},
-    {4, 15, single, kind::vector, 0},
-    {4, 16, single, kind::matrix, 0},
-    {4, 14, single, kind::integer, 0},
-    {12, 100, list, kind::integerList, 0},
-    {6, 100, list, noDefault, 0},
-    {10, 110, list, kind::pluginList, 0},
-    {8, 110, list, noDefault, 0},
-    {16, 101, list, kind::floatList, 0},
-    {12, 104, list, kind::vectorList, 0},
-    {8, 104, list, noDefault, 0},
-    {12, 109, list, kind::stringList, 0},
-    {8, 12, list, kind::list, kind::string},
-    {3, 12, list, noDefault, 0},
-    {7, 105, list, kind::colorList, 0},
-    {8, 108, list, kind::transformList, 0},
-    {4, 103, list, kind::list, kind::boolean},
-    {5, 106, list, kind::list, kind::acolor},
-    {3, 111, list, kind::list, kind::color},
-    {3, 113, list, kind::floatList, 0},
-    {6, 107, list, kind::list, kind::matrix},
-    {2, 114, list, kind::integerList, 0},
-    {4, 115, list, kind::vectorList, 0},
-    {1, 117, list, kind::transformList, 0},
+    {188, 1, kind::floatNumber},
+    {20, 1, singleGuide},
+    {8, 2, kind::doubleNumber},
+    {141, 0, kind::integer},
+    {127, 3, kind::boolean},
+    {32, 11, kind::acolor},
+    {14, 11, kind::color},
+    {14, 11, acolorGuide},
+    {8, 11, colorGuide},
+    {12, 11, kind::plugin},
+    {14, 11, noDefault},
+    {64, 9, kind::string},
+    {34, 13, kind::floatNumber},
+    {18, 13, singleGuide},
+    {36, 10, kind::plugin},
+    {12, 10, noDefault},
+    {34, 5, kind::color},
+    {18, 4, kind::vector},
+    {12, 6, kind::acolor},
+    {25, 8, kind::transform},
+    {14, 7, kind::matrix},
+    {5, 17, kind::transform},
+    {4, 15, kind::vector},
+    {4, 16, kind::matrix},
+    {4, 14, kind::integer},
+    {12, 100, kind::integerList},
+    {6, 100, noDefault},
+    {10, 110, kind::pluginList},
+    {8, 110, noDefault},
+    {16, 101, kind::floatList},
+    {12, 104, kind::vectorList},
+    {8, 104, noDefault},
+    {12, 109, kind::stringList},
+    {8, 12, kind::list, kind::string},
+    {3, 12, noDefault},
+    {7, 105, kind::colorList},
+    {8, 108, kind::transformList},
+    {4, 103, kind::list, kind::boolean},
+    {5, 106, kind::list, kind::acolor},
+    {3, 111, kind::list, kind::color},
+    {3, 113, kind::floatList},
+    {6, 107, kind::list, kind::matrix},
+    {2, 114, kind::integerList},
+    {4, 115, kind::vectorList},
+    {1, 117, kind::transformList},
 }};
 
 constexpr std::array<float, 12> usualFloats = {0, 0, 0, 1, 1, 1, 0.5F, 0.1F, 2, 100, 0.01F, 1e-07F};
@@ -230,7 +226,7 @@ replay::DefaultValue inventValue(std::int32_t tag, std::int32_t elementTag, Dice
 }
 
 InventedParameter guided(const MixEntry& entry, Dice& dice) {
-    InventedParameter parameter = {entry.typeCode, false, {}, replay::Guide{}};
+    InventedParameter parameter = {entry.typeCode, {}, replay::Guide{}};
     if (entry.kind == singleGuide) {
         parameter.guide->single = inventFloat(dice);
     } else {
@@ -249,10 +245,10 @@ bool isGuide(std::int32_t tag) {
 InventedParameter inventParameter(Dice dice) {
     const MixEntry& entry = pick(dice);
     if (isGuide(entry.kind)) return guided(entry, dice);
-    InventedParameter parameter = {entry.typeCode, entry.isList == list, {}, std::nullopt};
+    InventedParameter parameter = {entry.typeCode, {}, std::nullopt};
     if (entry.kind != noDefault) {
         parameter.defaultValue = inventValue(entry.kind, entry.elementKind, dice);
-    } else if (!parameter.isList) {
+    } else if (!isListCode(entry.typeCode)) {
         parameter.defaultValue = {kind::string, std::string("none")};
     }
     return parameter;

@@ -12,7 +12,6 @@ namespace metagen::invented {
 
 struct InventedParameter {
     std::int32_t typeCode = 0;
-    bool isList = false;
     replay::DefaultValue defaultValue;
     std::optional<replay::Guide> guide;  ///< when there, the default comes from it
 };

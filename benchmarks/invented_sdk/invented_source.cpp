@@ -103,7 +103,7 @@ std::optional<std::size_t> InventedSource::parameter(std::string_view typeText,
 
 ParameterFacts InventedSource::facts(std::size_t parameter) const {
     const InventedParameter& asked = known(parameter);
-    return {asked.typeCode, asked.isList ? 0 : noList, 1};
+    return {asked.typeCode, isListCode(asked.typeCode) ? 0 : noList, 1};
 }
 
 const PluginInstance* InventedSource::instance(std::int64_t pluginId) const {
