@@ -18,16 +18,16 @@ ALLOWED = {
     "diff": {"json", "support"},
     "metadata": {"sdk", "support"},
     "model": {"json", "metadata", "sdk", "support"},
-    "dump": {"metadata", "sdk", "support"},
+    "dump": {"metadata", "support"},
     "combine": {"json", "metadata", "model", "sdk", "support"},
-    "genh": {"json", "model", "metadata", "sdk", "support"},
+    "genh": {"json", "model", "support"},
     "genm": {"json", "model", "metadata", "sdk", "support"},
     "cli": {"combine", "diff", "dump", "genh", "genm", "sdk", "support"},
     "lint": {"combine", "genm", "json", "metadata", "model", "sdk", "support"},
     "main.cpp": {"cli", "support"},
     "lint_main.cpp": {"lint", "support"},
     "replay_sdk": {"json", "sdk", "support"},
-    "benchmarks": {"genm", "json", "metadata", "replay_sdk", "sdk", "support"},
+    "benchmarks": {"json", "replay_sdk", "sdk", "support"},
 }
 
 PLATFORM_HEADERS = {
