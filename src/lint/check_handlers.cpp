@@ -1,6 +1,6 @@
+#include <algorithm>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 #include "combine/checks.h"
 #include "lint/checks.h"
@@ -13,14 +13,14 @@ namespace {
 
 /// The first user data of the parameter that is named with a suffix of the texture handlers.
 std::string firstData(json::Object data, std::string_view parameter) {
-    std::vector<std::string_view> suffixes = {handler_kind::color.value,
-                                              handler_kind::floatNumber.value};
-    for (const std::string_view suffix : handler_kind::color.expected) suffixes.push_back(suffix);
-    for (const std::string_view suffix : suffixes) {
-        std::string name = std::string(parameter).append(suffix);
-        if (json::find(data, name) != nullptr) return name;
-    }
-    return "";
+    std::string name;
+    const auto isThere = [&](std::string_view suffix) {
+        return json::find(data, name = std::string(parameter).append(suffix)) != nullptr;
+    };
+    const bool isFound = isThere(handler_kind::color.value) ||
+                         isThere(handler_kind::floatNumber.value) ||
+                         std::ranges::any_of(handler_kind::color.expected, isThere);
+    return isFound ? name : "";
 }
 
 /// One plugin of the merge, and the same of the combined document.
